@@ -1,0 +1,1 @@
+// The bridge's QObject adapters are added beside this file.

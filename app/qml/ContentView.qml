@@ -1,0 +1,6 @@
+import QtQuick
+
+Rectangle {
+    color: "white"
+    Text { anchors.centerIn: parent; text: "Tessarine" }
+}

@@ -1,0 +1,115 @@
+#include "storage/data_manager.h"
+
+#include <sqlite3.h>
+
+#include <iostream>
+
+#include "catalogue/fatal_error.h"
+
+namespace tessarine {
+namespace {
+
+constexpr int kSchemaVersion = 1;
+
+// A prepared statement that finalises itself.
+class Statement {
+ public:
+  Statement(sqlite3* db, const char* sql) { rc_ = sqlite3_prepare_v2(db, sql, -1, &stmt_, nullptr); }
+  ~Statement() { sqlite3_finalize(stmt_); }
+  Statement(const Statement&) = delete;
+  Statement& operator=(const Statement&) = delete;
+  bool ok() const { return rc_ == SQLITE_OK; }
+  sqlite3_stmt* get() const { return stmt_; }
+
+ private:
+  sqlite3_stmt* stmt_ = nullptr;
+  int rc_ = SQLITE_ERROR;
+};
+
+bool exec(sqlite3* db, const char* sql) { return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK; }
+
+// Runs one write in its own transaction; on any failure the store is rolled back and left as it was.
+template <typename Bind>
+bool write(sqlite3* db, const char* sql, Bind bind, const char* failureLine) {
+  bool done = exec(db, "BEGIN IMMEDIATE");
+  if (done) {
+    Statement statement(db, sql);
+    done = statement.ok() && bind(statement.get()) && sqlite3_step(statement.get()) == SQLITE_DONE;
+  }
+  if (done) done = exec(db, "COMMIT");
+  if (!done) {
+    std::cout << failureLine << sqlite3_errmsg(db) << std::endl;
+    exec(db, "ROLLBACK");
+  }
+  return done;
+}
+
+bool bindText(sqlite3_stmt* stmt, int index, const std::string& text) {
+  return sqlite3_bind_text(stmt, index, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT) ==
+         SQLITE_OK;
+}
+
+}  // namespace
+
+DataManager::DataManager(const std::filesystem::path& directory, std::string storeName,
+                         std::string openFailureMessage)
+    : storeName_(std::move(storeName)) {
+  std::error_code ignored;
+  std::filesystem::create_directories(directory, ignored);
+  const std::string path = (directory / (storeName_ + ".sqlite")).string();
+  int rc = sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+  if (rc == SQLITE_OK) {
+    // One table of one text attribute; rowid order is creation order, and an update keeps it.
+    const bool ready = exec(db_, "PRAGMA synchronous=FULL") &&
+                       exec(db_,
+                            "CREATE TABLE IF NOT EXISTS entries (id INTEGER PRIMARY KEY AUTOINCREMENT, "
+                            "text TEXT)") &&
+                       exec(db_, ("PRAGMA user_version=" + std::to_string(kSchemaVersion)).c_str());
+    if (!ready) rc = sqlite3_errcode(db_) == SQLITE_OK ? SQLITE_ERROR : sqlite3_errcode(db_);
+  }
+  if (rc != SQLITE_OK) {
+    const std::string description = db_ != nullptr ? sqlite3_errmsg(db_) : sqlite3_errstr(rc);
+    sqlite3_close(db_);
+    db_ = nullptr;
+    throw FatalError(openFailureMessage + description);
+  }
+}
+
+DataManager::~DataManager() { sqlite3_close(db_); }
+
+std::vector<Entry> DataManager::getAllEntries() const {
+  std::vector<Entry> entries;
+  Statement statement(db_, "SELECT id, text FROM entries ORDER BY id");
+  if (!statement.ok()) return entries;
+  int rc;
+  while ((rc = sqlite3_step(statement.get())) == SQLITE_ROW) {
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement.get(), 1));
+    const int bytes = sqlite3_column_bytes(statement.get(), 1);
+    entries.push_back({sqlite3_column_int64(statement.get(), 0),
+                       text != nullptr ? std::string(text, static_cast<std::size_t>(bytes)) : std::string()});
+  }
+  if (rc != SQLITE_DONE) entries.clear();
+  return entries;
+}
+
+bool DataManager::saveEntry(const std::string& text) {
+  return write(
+      db_, "INSERT INTO entries (text) VALUES (?1)", [&](sqlite3_stmt* s) { return bindText(s, 1, text); },
+      "Failed to save day ");
+}
+
+bool DataManager::updateEntry(const Entry& entry, const std::string& text) {
+  return write(
+      db_, "UPDATE entries SET text = ?1 WHERE id = ?2",
+      [&](sqlite3_stmt* s) { return bindText(s, 1, text) && sqlite3_bind_int64(s, 2, entry.id) == SQLITE_OK; },
+      "Failed to save context ");
+}
+
+bool DataManager::deleteEntry(const Entry& entry) {
+  return write(
+      db_, "DELETE FROM entries WHERE id = ?1",
+      [&](sqlite3_stmt* s) { return sqlite3_bind_int64(s, 1, entry.id) == SQLITE_OK; },
+      "Failed to save context ");
+}
+
+}  // namespace tessarine
