@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "engine/tile_color.h"
+#include "storage/entry.h"
 
 namespace tessarine {
 
@@ -21,6 +22,9 @@ using RowMarks = std::array<bool, kMarkedRows>;
 // board, the marks, the keys and the hint knowledge from the stored day records. The stores
 // themselves are owned by the session that holds this record.
 struct ContentView {
+  // Last fetch of each store.
+  std::vector<Entry> cellEntries, settingEntries, bonusEntries;
+
   // Build-time switches; false in every build.
   bool deleteCoreDataValues = false;
   bool noMinimumDay = false;

@@ -1,20 +1,15 @@
 #pragma once
 
-#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "storage/entry.h"
+
 struct sqlite3;
 
 namespace tessarine {
-
-// One stored string record. `id` is the store's opaque handle, used only to update and delete.
-struct Entry {
-  std::int64_t id = 0;
-  std::string text;
-};
 
 // A store of string records on SQLite, one database file per store, named after the store.
 // Records come back in creation order; an update keeps the record's place; every write is
