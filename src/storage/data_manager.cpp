@@ -26,22 +26,26 @@ class Statement {
   int rc_ = SQLITE_ERROR;
 };
 
-bool exec(sqlite3* db, const char* sql) { return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK; }
+bool exec(sqlite3* db, const char* sql) {
+  return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
+}
 
-// Runs one write in its own transaction; on any failure the store is rolled back and left as it was.
-template <typename Bind>
-bool write(sqlite3* db, const char* sql, Bind bind, const char* failureLine) {
-  bool done = exec(db, "BEGIN IMMEDIATE");
-  if (done) {
-    Statement statement(db, sql);
-    done = statement.ok() && bind(statement.get()) && sqlite3_step(statement.get()) == SQLITE_DONE;
-  }
-  if (done) done = exec(db, "COMMIT");
+// Runs `steps` in one transaction; on any failure the store is rolled back and left as it was.
+template <typename Steps>
+bool write(sqlite3* db, Steps steps, const char* failureLine) {
+  bool done = exec(db, "BEGIN IMMEDIATE") && steps() && exec(db, "COMMIT");
   if (!done) {
     std::cout << failureLine << sqlite3_errmsg(db) << std::endl;
     exec(db, "ROLLBACK");
   }
   return done;
+}
+
+// Prepares, binds and steps one statement to its end.
+template <typename Bind>
+bool run(sqlite3* db, const char* sql, Bind bind) {
+  Statement statement(db, sql);
+  return statement.ok() && bind(statement.get()) && sqlite3_step(statement.get()) == SQLITE_DONE;
 }
 
 bool bindText(sqlite3_stmt* stmt, int index, const std::string& text) {
@@ -75,7 +79,9 @@ DataManager::DataManager(const std::filesystem::path& directory, std::string sto
   }
 }
 
-DataManager::~DataManager() { sqlite3_close(db_); }
+DataManager::~DataManager() {
+  sqlite3_close(db_);
+}
 
 std::vector<Entry> DataManager::getAllEntries() const {
   std::vector<Entry> entries;
@@ -94,22 +100,38 @@ std::vector<Entry> DataManager::getAllEntries() const {
 
 bool DataManager::saveEntry(const std::string& text) {
   return write(
-      db_, "INSERT INTO entries (text) VALUES (?1)", [&](sqlite3_stmt* s) { return bindText(s, 1, text); },
-      "Failed to save day ");
+      db_, [&] { return insert(text); }, "Failed to save day ");
 }
 
 bool DataManager::updateEntry(const Entry& entry, const std::string& text) {
   return write(
-      db_, "UPDATE entries SET text = ?1 WHERE id = ?2",
-      [&](sqlite3_stmt* s) { return bindText(s, 1, text) && sqlite3_bind_int64(s, 2, entry.id) == SQLITE_OK; },
+      db_,
+      [&] {
+        return run(db_, "UPDATE entries SET text = ?1 WHERE id = ?2", [&](sqlite3_stmt* s) {
+          return bindText(s, 1, text) && sqlite3_bind_int64(s, 2, entry.id) == SQLITE_OK;
+        });
+      },
       "Failed to save context ");
 }
 
 bool DataManager::deleteEntry(const Entry& entry) {
   return write(
-      db_, "DELETE FROM entries WHERE id = ?1",
-      [&](sqlite3_stmt* s) { return sqlite3_bind_int64(s, 1, entry.id) == SQLITE_OK; },
-      "Failed to save context ");
+      db_, [&] { return remove(entry); }, "Failed to save context ");
+}
+
+bool DataManager::replaceEntry(const Entry& entry, const std::string& text) {
+  return write(
+      db_, [&] { return remove(entry) && insert(text); }, "Failed to save context ");
+}
+
+bool DataManager::insert(const std::string& text) {
+  return run(db_, "INSERT INTO entries (text) VALUES (?1)",
+             [&](sqlite3_stmt* s) { return bindText(s, 1, text); });
+}
+
+bool DataManager::remove(const Entry& entry) {
+  return run(db_, "DELETE FROM entries WHERE id = ?1",
+             [&](sqlite3_stmt* s) { return sqlite3_bind_int64(s, 1, entry.id) == SQLITE_OK; });
 }
 
 }  // namespace tessarine

@@ -29,10 +29,16 @@ class DataManager {
   bool saveEntry(const std::string& text);
   bool updateEntry(const Entry& entry, const std::string& text);
   bool deleteEntry(const Entry& entry);
+  // Deletes the record and saves `text` as a new last record in one transaction, so that a failure
+  // half-way can never lose the record. Day records move this way, never in place.
+  bool replaceEntry(const Entry& entry, const std::string& text);
 
   const std::string& storeName() const { return storeName_; }
 
  private:
+  bool insert(const std::string& text);
+  bool remove(const Entry& entry);
+
   std::string storeName_;
   sqlite3* db_ = nullptr;
 };

@@ -1,0 +1,193 @@
+#include "storage/day_record.h"
+
+#include <algorithm>
+
+#include "catalogue/calendar.h"
+#include "catalogue/catalogue.h"
+#include "catalogue/lists.h"
+#include "storage/record_text.h"
+
+namespace tessarine {
+namespace {
+
+bool isDigit(const std::string& symbol) {
+  return symbol.size() == 1 && symbol[0] >= '0' && symbol[0] <= '9';
+}
+
+std::string joined(const std::vector<std::string>& symbols, std::size_t from, std::size_t count) {
+  std::string text;
+  for (std::size_t i = from; i < std::min(symbols.size(), from + count); ++i)
+    text += symbols[i];
+  return text;
+}
+
+// The record as one printable line: control and non-ASCII bytes are escaped.
+std::string printable(std::string_view text) {
+  static constexpr char kHex[] = "0123456789ABCDEF";
+  std::string line;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte >= 0x20 && byte < 0x7F) {
+      line += c;
+    } else {
+      line += "\\x";
+      line += kHex[byte >> 4];
+      line += kHex[byte & 0x0F];
+    }
+  }
+  return line;
+}
+
+std::string problemAt(std::size_t position, const std::string& what) {
+  return "character " + std::to_string(position) + " " + what;
+}
+
+}  // namespace
+
+char rowMarkDigit(const ContentView& view, int row, bool smartModeFlag) {
+  if (view.singleHint[row]) return '7';
+  if (view.usedHints[row]) return smartModeFlag ? '6' : '5';
+  if (view.smartModeError[row]) return smartModeFlag ? '3' : '2';
+  if (view.validGuessError[row]) return '4';
+  if (view.smartModeCorrect[row]) return '1';
+  return '0';
+}
+
+bool restoreRowMarks(ContentView& view, std::string_view marks) {
+  bool smartRecord = false;
+  for (std::size_t row = 0; row < std::min<std::size_t>(marks.size(), kMarkedRows); ++row) {
+    switch (marks[row]) {
+      case '7':
+        view.singleHint[row] = true;
+        break;
+      case '6':
+        smartRecord = true;
+        [[fallthrough]];
+      case '5':
+        view.usedHints[row] = true;
+        break;
+      case '3':
+        smartRecord = true;
+        [[fallthrough]];
+      case '2':
+        view.smartModeError[row] = true;
+        break;
+      case '4':
+        view.validGuessError[row] = true;
+        break;
+      case '1':
+        view.smartModeCorrect[row] = true;
+        break;
+      default:
+        break;  // "0", or a blank left by padding: no mark
+    }
+  }
+  return smartRecord;
+}
+
+std::string buildDayRecord(const ContentView& view, int dayIndex, int score, bool smartModeFlag) {
+  std::string record = paddedDayIndex(dayIndex) + view.gameType + std::to_string(score);
+  for (int c = 0; c < kRecordCells; ++c)
+    record += view.cellLetter[c] == kEmptyCell ? " " : view.cellLetter[c];
+  for (int row = 0; row < kMarkedRows; ++row)
+    record += rowMarkDigit(view, row, smartModeFlag);
+  return record;
+}
+
+void storeDay(ContentView& view, CoreDataManager& coreDM, const Clock& clock, int score, bool flag) {
+  if (score >= 1 && score <= kScoreSlots) view.scoreInt[score - 1] += 1;
+  const int today = daysFromApril1st(clock) - 1;
+  if (view.latestDateIndex != today && view.latestDateIndex >= 0) view.activeDate += view.latestDateIndex;
+  coreDM.saveEntry(buildDayRecord(view, std::max(0, today + view.activeDate), score, flag));
+}
+
+std::optional<DayRecord> parseDayRecord(const Entry& entry, std::string& problem) {
+  if (!isValidUtf8(entry.text)) {
+    problem = "not valid UTF-8";
+    return std::nullopt;
+  }
+  const std::vector<std::string> symbols = splitSymbols(entry.text);
+  if (symbols.size() < static_cast<std::size_t>(kDayRecordLength)) {
+    problem = "too short (" + std::to_string(symbols.size()) + " of 62 characters)";
+    return std::nullopt;
+  }
+  if (symbols.size() > static_cast<std::size_t>(kDayRecordLength) + 1) {
+    problem = "too long (" + std::to_string(symbols.size()) + " characters)";
+    return std::nullopt;
+  }
+  // A five-digit day index makes the record one character longer.
+  const std::size_t dayDigits = symbols.size() - kDayRecordLength + 4;
+  for (std::size_t i = 0; i < dayDigits; ++i) {
+    if (!isDigit(symbols[i])) {
+      problem = problemAt(i, "of the day index is not a digit");
+      return std::nullopt;
+    }
+  }
+  const GameTypeInfo* type = findGameType(symbols[dayDigits]);
+  if (type == nullptr) {
+    problem = "unknown game type \"" + printable(symbols[dayDigits]) + "\"";
+    return std::nullopt;
+  }
+  const std::string& scoreSymbol = symbols[dayDigits + 1];
+  if (!isDigit(scoreSymbol)) {
+    problem = problemAt(dayDigits + 1, "(the score) is not a digit");
+    return std::nullopt;
+  }
+  const int score = scoreSymbol[0] - '0';
+  if (score > type->rows + 1) {
+    problem = "score " + scoreSymbol + " is beyond " + std::to_string(type->rows + 1) + " for game type " +
+              symbols[dayDigits];
+    return std::nullopt;
+  }
+  const std::size_t marksFrom = symbols.size() - kMarkedRows;
+  for (std::size_t i = marksFrom; i < symbols.size(); ++i) {
+    if (symbols[i] != " " && !isDigit(symbols[i])) {
+      problem = problemAt(i, "(a row mark) is neither a digit nor a blank");
+      return std::nullopt;
+    }
+  }
+  DayRecord record;
+  record.entry = entry;
+  record.key = joined(symbols, 0, dayDigits + 1);
+  record.dayIndex = parseIntOr(joined(symbols, 0, dayDigits), 0);
+  record.gameType = symbols[dayDigits];
+  record.score = score;
+  record.tileText = std::string(trimView(joined(symbols, 0, kTileTextLength + dayDigits - 4)));
+  record.marks = joined(symbols, marksFrom, kMarkedRows);
+  record.firstCell = static_cast<int>(dayDigits) + 2;
+  return record;
+}
+
+std::vector<DayRecord> readDayRecords(const CoreDataManager& coreDM, std::ostream& log) {
+  std::vector<DayRecord> records;
+  const std::vector<Entry> entries = coreDM.getAllEntries();
+  records.reserve(entries.size());
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    std::string problem;
+    if (auto record = parseDayRecord(entries[i], problem)) {
+      records.push_back(std::move(*record));
+    } else {
+      log << "Skipped day record " << i << " \"" << printable(entries[i].text) << "\": " << problem << '\n';
+    }
+  }
+  return records;
+}
+
+std::string recordCharacter(const DayRecord& record, int position) {
+  const std::vector<std::string> symbols = splitSymbols(record.entry.text);
+  return position >= 0 && static_cast<std::size_t>(position) < symbols.size() ? symbols[position] : " ";
+}
+
+void padDayRecords(CoreDataManager& coreDM) {
+  const std::vector<Entry> entries = coreDM.getAllEntries();
+  if (entries.empty() || symbolCount(entries.front().text) >= static_cast<std::size_t>(kDayRecordLength))
+    return;
+  for (const Entry& entry : entries) {
+    const std::size_t length = symbolCount(entry.text);
+    std::string padded = entry.text;
+    if (length < static_cast<std::size_t>(kDayRecordLength)) padded.append(kDayRecordLength - length, ' ');
+    coreDM.replaceEntry(entry, padded);
+  }
+}
+
+}  // namespace tessarine
