@@ -1,0 +1,179 @@
+#include "engine/hint_candidates.h"
+
+#include <map>
+#include <memory>
+#include <tuple>
+
+#include "catalogue/lists.h"
+#include "session/content_view.h"
+
+namespace tessarine {
+namespace {
+
+std::size_t symbolBytes(std::string_view text, std::size_t at) {
+  std::size_t end = at + 1;
+  while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
+    ++end;
+  return end - at;
+}
+
+// A cache entry is trusted only while its list still looks the same: tests and tools may load
+// several folders with equal list names during one process.
+struct CacheEntry {
+  std::size_t lineCount;
+  std::vector<std::string> sample;
+  std::unique_ptr<CandidateList> list;
+};
+
+std::vector<std::string> sampleLines(const ListFile& file) {
+  std::vector<std::string> sample;
+  const std::size_t n = file.lines.size();
+  const std::size_t step = n / 32 + 1;
+  for (std::size_t i = 0; i < n; i += step)
+    sample.push_back(file.lines[i]);
+  if (n > 0) sample.push_back(file.lines[n - 1]);
+  return sample;
+}
+
+std::unique_ptr<CandidateList> buildList(const ListFile& file, int length, bool wholeLine) {
+  auto list = std::make_unique<CandidateList>();
+  list->length = length;
+  for (const std::string& line : file.lines) {
+    std::string_view text = wholeLine ? trimView(line) : std::string_view(line);
+    std::size_t bytes = 0;
+    int symbols = 0;
+    while (symbols < length && bytes < text.size()) {
+      bytes += symbolBytes(text, bytes);
+      ++symbols;
+    }
+    // Too short to fill a row, or (for primes) too long: no such row can be entered.
+    if (symbols < length || (wholeLine && bytes != text.size())) continue;
+    EncodedWord word{};
+    std::uint64_t mask = 0;
+    std::size_t at = 0;
+    for (int i = 0; i < length; ++i) {
+      const std::size_t size = symbolBytes(text, at);
+      word[static_cast<std::size_t>(i)] = list->symbols.add(text.substr(at, size));
+      mask |= std::uint64_t{1} << (word[static_cast<std::size_t>(i)] % 64);
+      at += size;
+    }
+    list->words.emplace_back(text.substr(0, bytes));
+    list->codes.push_back(word);
+    list->masks.push_back(mask);
+  }
+  return list;
+}
+
+}  // namespace
+
+SymbolCode SymbolTable::code(std::string_view symbol) const {
+  if (symbol.size() == 1) {
+    const auto c = static_cast<unsigned char>(symbol[0]);
+    return c < 128 ? ascii_[c] : kAbsent;
+  }
+  for (const auto& [text, value] : others_) {
+    if (text == symbol) return value;
+  }
+  return kAbsent;
+}
+
+SymbolCode SymbolTable::add(std::string_view symbol) {
+  if (const SymbolCode existing = code(symbol); existing != kAbsent) return existing;
+  if (next_ > 255) return kAbsent;  // more symbols than any keypad has; treat as unusable
+  const auto value = static_cast<SymbolCode>(next_++);
+  const auto c = static_cast<unsigned char>(symbol[0]);
+  if (symbol.size() == 1 && c < 128) {
+    ascii_[c] = value;
+  } else {
+    others_.emplace_back(symbol, value);
+  }
+  return value;
+}
+
+bool SymbolTable::encode(std::string_view text, int length, EncodedWord& out) const {
+  std::size_t at = 0;
+  for (int i = 0; i < length; ++i) {
+    if (at >= text.size()) return false;
+    const std::size_t size = symbolBytes(text, at);
+    out[static_cast<std::size_t>(i)] = code(text.substr(at, size));
+    at += size;
+  }
+  return at == text.size();
+}
+
+const CandidateList& candidateList(const ListFile& file, const std::string& listName, int length,
+                                   bool wholeLine) {
+  static std::map<std::tuple<std::string, int, bool>, CacheEntry> cache;
+  auto& entry = cache[{listName, length, wholeLine}];
+  if (!entry.list || entry.lineCount != file.lines.size() || entry.sample != sampleLines(file)) {
+    entry = CacheEntry{file.lines.size(), sampleLines(file), buildList(file, length, wholeLine)};
+  }
+  return *entry.list;
+}
+
+CandidateTest::CandidateTest(const ContentView& view, const SymbolTable& symbols) {
+  if (view.hintLettersUnique.empty()) {
+    form_ = HintTestForm::grayOnly;
+  } else if (view.greenLetterPosition.size() == 1) {
+    form_ = HintTestForm::singleGreen;
+  } else if (view.greenLetterPosition.empty()) {
+    form_ = HintTestForm::noGreen;
+  } else {
+    form_ = HintTestForm::full;
+  }
+  for (const std::string& symbol : view.grayLetters) {
+    const SymbolCode code = symbols.code(symbol);
+    if (code == SymbolTable::kAbsent) continue;  // no word holds it anyway
+    gray_.set(code);
+    grayMask_ |= std::uint64_t{1} << (code % 64);
+  }
+  if (form_ == HintTestForm::grayOnly) return;
+  for (int column : view.greenLetterPosition) {
+    const auto c = static_cast<std::size_t>(column);
+    green_.emplace_back(
+        column, c < view.greenLetters.size() ? symbols.code(view.greenLetters[c]) : SymbolTable::kAbsent);
+  }
+  for (std::size_t i = 0; i < view.yellowLetters.size() && i < view.yellowCloseGroups.size(); ++i) {
+    for (int column : view.yellowCloseGroups[i])
+      closed_.emplace_back(column, symbols.code(view.yellowLetters[i]));
+  }
+  for (std::size_t i = 0; i < view.hintLettersUnique.size(); ++i) {
+    const auto bound = [i](const std::vector<int>& values, int fallback) {
+      return i < values.size() ? values[i] : fallback;
+    };
+    counts_.push_back({symbols.code(view.hintLettersUnique[i]),
+                       i < view.hintOpenGroups.size() ? view.hintOpenGroups[i] : std::vector<int>{},
+                       bound(view.hintLettersExact, 0), bound(view.hintLettersLower, 0),
+                       bound(view.hintLettersUpper, kMaxWordSymbols)});
+  }
+}
+
+bool CandidateTest::passes(const EncodedWord& word, std::uint64_t mask) const {
+  // Gray first, most words fail here: the mask only says "maybe", the columns decide.
+  if ((mask & grayMask_) != 0) {
+    for (SymbolCode code : word) {
+      if (code != SymbolTable::kAbsent && gray_.test(code)) return false;
+    }
+  }
+  const auto at = [&word](int column) {
+    return column >= 0 && column < kMaxWordSymbols ? word[static_cast<std::size_t>(column)]
+                                                   : SymbolTable::kAbsent;
+  };
+  for (const auto& [column, code] : green_) {
+    if (at(column) != code || code == SymbolTable::kAbsent) return false;
+  }
+  for (const auto& [column, code] : closed_) {
+    if (code != SymbolTable::kAbsent && at(column) == code) return false;
+  }
+  for (const Count& count : counts_) {
+    int n = 0;
+    if (count.code != SymbolTable::kAbsent) {
+      for (int column : count.open)
+        n += at(column) == count.code ? 1 : 0;
+    }
+    if ((count.exact >= 1 && n != count.exact) || n < count.lower || n > count.upper) return false;
+  }
+  return true;
+}
+
+}  // namespace tessarine
