@@ -1,0 +1,72 @@
+"""Spanish pools: valid guesses from wspanish and an-array-of-spanish-words, answers and translations
+from the project's own word files (data/spanish4.tsv, data/spanish5.tsv)."""
+
+import json
+import os
+import sys
+import unicodedata
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+WSPANISH = "/usr/share/dict/spanish"
+ARRAY = os.path.join(HERE, "node_modules", "an-array-of-spanish-words", "index.json")
+LETTERS = set("ABCDEFGHIJKLMNOPQRSTUVWXYZÑ")
+
+# Stands in until the hand-made word files exist, so that the game still has a Spanish schedule.
+PLACEHOLDER = {
+    4: [("CASA", "house"), ("MESA", "table"), ("LUNA", "moon"), ("AGUA", "water"), ("AÑOS", "years")],
+    5: [("PERRO", "dog"), ("LIBRO", "book"), ("ARBOL", "tree"), ("PLAYA", "beach"), ("NIÑOS", "children")],
+}
+
+
+def fold(word):
+    """Upper case without accents, since the keypad has none; Ñ is a letter of its own and stays."""
+    out = []
+    for ch in word.strip().upper():
+        if ch == "Ñ":
+            out.append(ch)
+        else:
+            out.append("".join(c for c in unicodedata.normalize("NFD", ch) if not unicodedata.combining(c)))
+    return "".join(out)
+
+
+def _letters(word):
+    return word and all(ch in LETTERS for ch in word)
+
+
+def valid_words(length):
+    words = set()
+    with open(WSPANISH, encoding="utf-8") as f:
+        sources = [line for line in f]
+    with open(ARRAY, encoding="utf-8") as f:
+        sources += json.load(f)
+    for raw in sources:
+        word = fold(raw)
+        if len(word) == length and _letters(word):
+            words.add(word)
+    return words
+
+
+def answers_and_translations(length):
+    """[(WORD, english)] in file order; a later line for the same word replaces the earlier one."""
+    path = os.path.join(HERE, "data", f"spanish{length}.tsv")
+    if not os.path.exists(path):
+        print(f"warning: {path} is missing; using a placeholder pool", file=sys.stderr)
+        rows = PLACEHOLDER[length]
+    else:
+        rows = []
+        with open(path, encoding="utf-8") as f:
+            for number, line in enumerate(f, 1):
+                line = line.rstrip("\n")
+                if not line.strip() or line.startswith("#"):
+                    continue
+                word, tab, english = line.partition("\t")
+                word = fold(word)
+                if not tab or not english.strip() or len(word) != length or not _letters(word):
+                    print(f"warning: {path}:{number}: skipped '{line}'", file=sys.stderr)
+                    continue
+                rows.append((word, " ".join(english.split())))
+    merged = {}
+    for word, english in rows:
+        merged.pop(word, None)
+        merged[word] = english
+    return list(merged.items())
