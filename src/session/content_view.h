@@ -58,7 +58,8 @@ struct ContentView {
   std::array<TileColor, kMaximumCells> cellBackground = filled<TileColor, kMaximumCells>(TileColor::white);
   std::array<double, kMaximumCells> cellBorderWidth = initialBorders();
 
-  std::array<std::string, kKeypadSize> keypadLetters = filled<std::string, kKeypadSize>(" ");  // 27: the Spanish keypad has Ñ
+  std::array<std::string, kKeypadSize> keypadLetters =
+      filled<std::string, kKeypadSize>(" ");  // 27: the Spanish keypad has Ñ
   int keypadNumber = 0;
   std::array<TileColor, kKeypadSize> keypadKeyColor = filled<TileColor, kKeypadSize>(TileColor::white);
 

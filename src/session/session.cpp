@@ -2,39 +2,99 @@
 
 #include "catalogue/calendar.h"
 #include "catalogue/catalogue.h"
+#include "storage/bonus_record.h"
+#include "storage/day_record.h"
+#include "storage/settings_record.h"
 
 namespace tessarine {
 
-// Placeholder bodies: the full game session replaces them.
 Session::Session(const std::filesystem::path& dataDirectory, const Lists& lists, const Clock& clock,
-                 RandomSource& random)
-    : stores_(dataDirectory), lists_(lists), clock_(clock), random_(random) {}
+                 RandomSource& random, std::ostream& log)
+    : stores_(dataDirectory), lists_(lists), clock_(clock), random_(random), log_(log) {}
+
+int Session::today() const {
+  return daysFromApril1st(clock_) - 1;
+}
 
 void Session::launch() {
   if (view_.gameType != "Ó") return;
-  view_.gameType = "C";
+  padDayRecords(stores_.coreDM);
+  records_.invalidate();
+  loadSettings(view_, stores_.settingDM, stores_.coreDM, clock_);
   applyCatalogue(view_);
+  reloadDay(true, true);
 }
 
-void Session::applyOptions() { applyCatalogue(view_); }
-void Session::changePhase(ScenePhase) {}
-void Session::enterSymbol(const std::string&) {}
-void Session::touchCell(int) {}
-void Session::clearCell() {}
-void Session::clearRow() {}
-void Session::moveCorrectLetters() {}
-void Session::submitGuess() {}
-void Session::pressHints() {}
-void Session::confirmHint() {}
-void Session::dismissHintsAlert() {}
-void Session::goToToday() {}
-void Session::goToLatestOpen() {}
-void Session::goForward() {}
-void Session::pickDate(int) {}
-void Session::dismissChristmasAlert() {}
+void Session::applyOptions() {
+  saveOptions(view_, stores_.settingDM);
+  applyCatalogue(view_);
+  view_.numberOfHints = -1;
+  reloadDay(true, true);
+  view_.updateSettings = false;
+}
+
+void Session::changePhase(ScenePhase phase) {
+  switch (phase) {
+    case ScenePhase::active: {
+      view_.thankYouFlag = false;
+      view_.thankYou = " ";
+      const int daysNow = daysFromApril1st(clock_);
+      // Midnight passed while away: stay on the day that was today when the player left.
+      if (view_.latestDateIndex != daysNow - 1 && view_.latestDateIndex >= 0) {
+        view_.disableCurrent = false;
+        view_.disableFirst = false;
+        view_.latestAvailableDate = 0;
+        view_.activeDate = view_.latestDateIndex - daysNow + 1;
+        reloadDay(true, true);
+      }
+      if (view_.latestDateIndex == view_.ChristmasDateIndex) {
+        bonusCheck(view_, stores_, clock_, [this] { reloadDay(false, false); });
+      }
+      break;
+    }
+    case ScenePhase::inactive:
+      view_.thankYouFlag = true;
+      view_.thankYou = view_.EnglishTranslation ? "Thanks for playing" : "Gracias por jugar";
+      break;
+    case ScenePhase::background:
+      break;
+  }
+}
+
+void Session::storeDay(int score, bool rejected) {
+  tessarine::storeDay(view_, stores_.coreDM, clock_, score, rejected);
+  records_.invalidate();
+}
+
+void Session::rewriteShownRecord(const DayRecord& record, int score) {
+  // Delete and write in one step, so a failed write never loses the day.
+  const int day = std::max(0, view_.latestDateIndex + view_.activeDate);
+  stores_.coreDM.replaceEntry(record.entry, buildDayRecord(view_, day, score, false));
+  records_.invalidate();
+}
+
+void Session::deleteRecord(const DayRecord& record) {
+  stores_.coreDM.deleteEntry(record.entry);
+  records_.invalidate();
+}
+
+void Session::dismissChristmasAlert() {
+  view_.showAlert4 = false;
+}
 
 std::string Session::displayDate(int offset) const {
   return displayDateString(clock_, offset, view_.thankYouFlag, view_.EnglishTranslation);
+}
+
+const std::vector<std::string>& Session::dateTexts() {
+  const DateTextKey key{today(), view_.minimumDayIndex, view_.EnglishTranslation, view_.thankYouFlag};
+  if (key == dateTextKey_) return dateTexts_;
+  dateTexts_.clear();
+  // Formatting every day anew on each refresh would cost more than the whole scan.
+  for (int day = key.today, offset = 0; day >= std::max(key.minimumDay, 0); --day, --offset)
+    dateTexts_.push_back(displayDate(offset));
+  dateTextKey_ = key;
+  return dateTexts_;
 }
 
 }  // namespace tessarine

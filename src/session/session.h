@@ -1,12 +1,16 @@
 #pragma once
 
 #include <filesystem>
+#include <iostream>
 #include <string>
+#include <vector>
 
 #include "catalogue/clock.h"
 #include "catalogue/lists.h"
 #include "engine/random_source.h"
 #include "session/content_view.h"
+#include "session/day_record_cache.h"
+#include "statistics/statistics_pass.h"
 #include "storage/data_manager.h"
 
 namespace tessarine {
@@ -18,48 +22,80 @@ enum class ScenePhase { active, inactive, background };
 class Session {
  public:
   // Opens the four stores in `dataDirectory` (a store that will not open throws FatalError).
+  // Lines about skipped day records go to `log`; the stores print their own failure lines.
   Session(const std::filesystem::path& dataDirectory, const Lists& lists, const Clock& clock,
-          RandomSource& random);
+          RandomSource& random, std::ostream& log = std::cout);
 
   const ContentView& view() const { return view_; }
   ContentView& mutableView() { return view_; }  // options screen edits, then applyOptions()
   const Lists& lists() const { return lists_; }
   const Clock& clock() const { return clock_; }
+  DataManagers& stores() { return stores_; }
 
   // Start, options and phases.
   void launch();
-  void applyOptions();
+  void applyOptions();  // after the options screen closed with `updateSettings` set
   void changePhase(ScenePhase phase);
 
   // Entry and submission.
   void enterSymbol(const std::string& symbol);
-  void touchCell(int column);
+  void touchCell(int column);  // a cell of the active row becomes the active cell
   void clearCell();
   void clearRow();
   void moveCorrectLetters();
   void submitGuess();
-  void pressHints();    // raises the hints alert when the button is live
-  void confirmHint();   // the alert's "Confirm:"
+  void pressHints();   // raises the hints alert when the button is live
+  void confirmHint();  // the alert's "Confirm:"
   void dismissHintsAlert();
 
+  // Writes the shown day as a new record; `rejected` marks a row left open by Smart Mode or Hints.
+  void storeDay(int score, bool rejected);
+  // Rebuilds the whole session from the stored day records for `gameType` and `activeDate`.
+  void reloadDay(bool recomputeStreaks, bool recomputeLatest);
+
   // Dates.
-  void goToToday();          // the "current" date button
-  void goToLatestOpen();     // the "first"/latest unfinished date button
-  void goForward();          // only with playFutureGames
-  void pickDate(int line);   // confirm the date list at a line (index = -activeDate)
+  void goToToday();         // the "current" date button
+  void goToLatestOpen();    // the "first"/latest unfinished date button
+  void goForward();         // only with playFutureGames
+  void openDateList();      // the calendar button: the wheel opens on the shown day's line
+  void pickDate(int line);  // confirm the date list at a line (index = -activeDate)
+  void openStatistics();    // the refresh that the statistics sheet shows
 
   // Alerts.
   void dismissChristmasAlert();
 
   // Texts the main screen shows, in the language of the settings.
   std::string displayDate(int offset) const;
+  // Whether the hints button is live (all its conditions, not only `disableHints`).
+  bool hintsButtonLive() const;
 
  private:
+  int today() const;  // today's 0-based day index
+  void knowledgeUpdate();
+  void finishWonRow();
+  void rewriteShownRecord(const DayRecord& record, int score);
+  void deleteRecord(const DayRecord& record);
+  int neededEntries() const;
+  const std::vector<std::string>& dateTexts();
+  friend class SessionReplay;  // the second half of the refresh
+
   DataManagers stores_;
   const Lists& lists_;
   const Clock& clock_;
   RandomSource& random_;
+  std::ostream& log_;
   ContentView view_;
+  DayRecordCache records_;
+  StatisticsPass statistics_;
+  bool rowJustAccepted_ = false;  // the refresh narrows the hints only after a new accepted row
+
+  struct DateTextKey {
+    int today = -1, minimumDay = -1;
+    bool english = true, thankYou = false;
+    bool operator==(const DateTextKey&) const = default;
+  };
+  DateTextKey dateTextKey_;
+  std::vector<std::string> dateTexts_;
 };
 
 }  // namespace tessarine

@@ -1,0 +1,100 @@
+// The cell cursor and the buttons that change the active row without submitting it.
+#include "catalogue/catalogue.h"
+#include "engine/scoring.h"
+#include "session/session.h"
+
+namespace tessarine {
+
+int Session::neededEntries() const {
+  // The equals tile of an equation row is never typed and never counted.
+  return isEquationType(view_.gameType) ? view_.gameLetters - 1 : view_.gameLetters;
+}
+
+void Session::enterSymbol(const std::string& symbol) {
+  ContentView& v = view_;
+  const int cell = v.currentPosition;
+  if (cell < 0 || cell >= kMaximumCells || !v.showKeypad) return;
+  if (v.cellLetter[cell] != symbol) v.showHintDefinition = false;
+  if (v.cellLetter[cell] == kEmptyCell) v.numCellEntries += 1;
+  if (v.numCellEntries == neededEntries()) v.disableSubmit = false;
+  v.cellLetter[cell] = symbol;
+  v.cellBackground[cell] = TileColor::white;
+  v.cellBorderWidth[cell] = 1.0;
+  // The cursor moves right and wraps to the row's first cell; it jumps over the equals tile.
+  int next = cell % v.gameLetters == v.gameLetters - 1 ? cell - (v.gameLetters - 1) : cell + 1;
+  if (isEquationType(v.gameType) && next % v.gameLetters == equalsIndex(v, lists_)) next += 1;
+  v.currentPosition = next;
+  v.cellBorderWidth[next] = 4.0;
+}
+
+void Session::touchCell(int column) {
+  ContentView& v = view_;
+  if (!v.showKeypad || column < 0 || column >= v.gameLetters) return;
+  if (isEquationType(v.gameType) && column == equalsIndex(v, lists_)) return;
+  const int cell = v.activeRow * v.gameLetters + column;
+  if (cell >= kMaximumCells) return;
+  v.cellBorderWidth[v.currentPosition] = 1.0;
+  v.currentPosition = cell;
+  v.cellBorderWidth[cell] = 4.0;
+}
+
+void Session::clearCell() {
+  ContentView& v = view_;
+  v.showHintDefinition = false;
+  const int cell = v.currentPosition;
+  if (!v.showKeypad || cell < 0 || cell >= kMaximumCells) return;
+  if (v.cellLetter[cell] != kEmptyCell) {
+    v.numCellEntries -= 1;
+    v.disableSubmit = true;
+    if (v.numCellEntries == 0) v.disableHints = false;
+  }
+  v.cellLetter[cell] = kEmptyCell;
+  v.cellBackground[cell] = TileColor::white;
+}
+
+void Session::clearRow() {
+  ContentView& v = view_;
+  v.showHintDefinition = false;
+  if (!v.showKeypad) return;
+  v.numCellEntries = 0;
+  v.disableSubmit = true;
+  v.disableHints = false;
+  v.cellBorderWidth[v.currentPosition] = 1.0;
+  const int first = v.activeRow * v.gameLetters;
+  v.currentPosition = first;
+  for (int column = 0; column < v.gameLetters; ++column) {
+    const int cell = first + column;
+    if (!(column >= 3 && v.cellLetter[cell] == "=")) v.cellLetter[cell] = kEmptyCell;
+    v.cellBackground[cell] = TileColor::white;
+    v.cellBorderWidth[cell] = 1.0;
+  }
+  v.cellBorderWidth[first] = 4.0;
+}
+
+void Session::moveCorrectLetters() {
+  ContentView& v = view_;
+  if (!v.showKeypad) return;
+  v.cellBorderWidth[v.currentPosition] = 1.0;
+  const int first = v.activeRow * v.gameLetters;
+  for (int row = 0; row < v.activeRow; ++row) {
+    for (int column = 0; column < v.gameLetters; ++column) {
+      const int cell = row * v.gameLetters + column;
+      const TileColor color = v.cellBackground[cell];
+      if (color != TileColor::green && color != TileColor::blue) continue;
+      v.currentPosition = first + column;
+      enterSymbol(v.cellLetter[cell]);
+      v.cellBorderWidth[v.currentPosition] = 1.0;  // no stray cursor marks while copying
+    }
+  }
+  int target = first;
+  for (int column = 0; column < v.gameLetters; ++column) {
+    if (v.cellLetter[first + column] == kEmptyCell) {
+      target = first + column;
+      break;
+    }
+  }
+  v.currentPosition = target;
+  v.cellBorderWidth[target] = 4.0;
+}
+
+}  // namespace tessarine

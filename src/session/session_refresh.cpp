@@ -1,0 +1,109 @@
+// The refresh: rebuilds the session from the stored day records for `gameType` and `activeDate`.
+// Nothing is kept incrementally; colours, marks, keys and hint knowledge all follow from the
+// stored letters again.
+#include <algorithm>
+
+#include "catalogue/calendar.h"
+#include "catalogue/catalogue.h"
+#include "engine/scoring.h"
+#include "session/session.h"
+#include "session/session_replay.h"
+#include "storage/record_text.h"
+
+namespace tessarine {
+namespace {
+
+void resetBoard(ContentView& v) {
+  v.displayHintsNumbers = false;
+  v.showHintDefinition = false;
+  v.showKeypad = true;
+  v.disableSubmit = v.disableHints = v.disableGreenButton = true;
+  v.cellLetter.fill(kEmptyCell);
+  v.cellBackground.fill(TileColor::white);
+  v.keypadKeyColor.fill(TileColor::white);
+  v.cellBorderWidth.fill(1.0);
+  v.cellBorderWidth[0] = 4.0;
+  for (RowMarks* marks :
+       {&v.smartModeCorrect, &v.smartModeError, &v.validGuessError, &v.usedHints, &v.singleHint})
+    marks->fill(false);
+  // Operator keys that the game type switches off never take a colour.
+  if (v.gameType == "N" || v.gameType == "Q" || v.gameType == "T") {
+    v.keypadKeyColor[11] = v.keypadKeyColor[13] = TileColor::black;
+  } else if (v.gameType == "O" || v.gameType == "R" || v.gameType == "U") {
+    v.keypadKeyColor[3] = v.keypadKeyColor[7] = TileColor::black;
+  }
+}
+
+bool recordHasEqualsAt(const DayRecord& record, int column) {
+  // Equation records are plain ASCII; anything else takes the careful, character-counting way.
+  const std::string& text = record.entry.text;
+  const std::size_t position = static_cast<std::size_t>(record.firstCell + column);
+  const bool ascii =
+      std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  if (ascii) return position < text.size() && text[position] == '=';
+  return recordCharacter(record, static_cast<int>(position)) == "=";
+}
+
+}  // namespace
+
+void Session::reloadDay(bool recomputeStreaks, bool recomputeLatest) {
+  ContentView& v = view_;
+  const int daysNow = daysFromApril1st(clock_);
+  resetBoard(v);
+  const int equalsPosition = v.prepopulate && isEquationType(v.gameType) ? equalsIndex(v, lists_) : 0;
+  v.currentPosition = 0;
+  v.numCellEntries = 0;
+  const std::vector<DayRecord>& records = records_.records(stores_.coreDM, log_);
+  v.latestDateIndex = daysNow - 1;
+  const std::string key = paddedDayIndex(v.latestDateIndex + v.activeDate) + v.gameType;
+
+  ReplayScan scan;
+  statistics_.begin(v, v.latestDateIndex);
+  for (int i = 0; i < static_cast<int>(records.size()); ++i) {
+    const DayRecord& record = records[i];
+    if (record.key == key) {
+      if (scan.firstMatch == -1) scan.firstMatch = i;
+      if (scan.lastMatch != -1) scan.olderMatches.push_back(scan.lastMatch);
+      scan.lastMatch = i;
+    }
+    if (record.gameType != v.gameType || record.dayIndex > v.latestDateIndex) continue;
+    const int score = record.score;
+    if (score >= 1) {
+      if (v.prepopulate && (!isEquationType(v.gameType) || recordHasEqualsAt(record, equalsPosition)))
+        scan.prepopulateSource = i;
+      if (i == scan.lastMatch) scan.lastScore = score;
+    }
+    statistics_.count(v, record.dayIndex, score);
+  }
+  statistics_.finish(v, dateTexts());
+  v.activeRow = 0;
+  if (recomputeLatest) statistics_.latestDates(v);
+  if (recomputeStreaks) statistics_.streaks(v);
+
+  SessionReplay(*this).run(scan, records);
+
+  // A day and game type has one record after a refresh: submissions write a new record and
+  // leave the older ones for this step.
+  if (!scan.olderMatches.empty()) {
+    if (v.latestUnfinishedDate == v.activeDate) v.latestUnfinishedDate = 1;
+    for (const int older : scan.olderMatches) {
+      deleteRecord(records[older]);
+      v.gamesPlayed -= 1;
+    }
+  }
+  if (v.deleteCoreDataValues && scan.lastMatch != -1) {
+    deleteRecord(records[scan.lastMatch]);
+    v.gamesPlayed -= 1;
+  }
+
+  const bool allFinished = v.gamesCompleted >= v.latestDateIndex + 1 - v.minimumDayIndex;
+  if (!v.showKeypad) {
+    v.disableFirst = allFinished;
+  } else if (v.activeDate < v.latestAvailableDate) {
+    v.disableFirst = false;
+  } else {
+    v.disableFirst = v.latestUnfinishedDate == 1 || v.activeDate >= v.latestUnfinishedDate;
+  }
+}
+
+}  // namespace tessarine
