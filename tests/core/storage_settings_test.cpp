@@ -1,0 +1,133 @@
+#include <gtest/gtest.h>
+
+#include "storage/settings_record.h"
+#include "storage_test_support.h"
+
+namespace tessarine {
+namespace {
+
+using testing_support::reopenedTexts;
+using testing_support::TempDir;
+using Texts = std::vector<std::string>;
+
+// Loads the settings as a launch would: a fresh session record over stores already on disk.
+struct Launch {
+  Launch(const std::filesystem::path& dir, const Texts& settings, const Texts& days, LocalDateTime now,
+         bool noMinimumDay = false)
+      : clock(now) {
+    {
+      SettingsDataManager settingDM(dir);
+      CoreDataManager coreDM(dir);
+      for (const auto& text : settings)
+        settingDM.saveEntry(text);
+      for (const auto& text : days)
+        coreDM.saveEntry(text);
+    }
+    SettingsDataManager settingDM(dir);
+    CoreDataManager coreDM(dir);
+    view.noMinimumDay = noMinimumDay;
+    loadSettings(view, settingDM, coreDM, clock);
+  }
+  FixedClock clock;
+  ContentView view;
+};
+
+struct FirstRunCase {
+  const char* name;
+  Texts settings;  // what survived in a damaged store
+  Texts days;
+  LocalDateTime now;
+  int expectedMinimum;
+};
+
+class FirstRun : public testing::TestWithParam<FirstRunCase> {};
+
+TEST_P(FirstRun, CreatesBothRecords) {
+  const FirstRunCase& c = GetParam();
+  TempDir dir;
+  Launch launch(dir.path(), c.settings, c.days, c.now);
+  EXPECT_EQ(launch.view.minimumDayIndex, c.expectedMinimum);
+  EXPECT_EQ(launch.view.gameType, "C");
+  EXPECT_EQ(launch.view.settingEntries.size(), 2u);
+  // The options are stored with the type the session had before loading.
+  const std::string record0 =
+      std::string(4 - std::to_string(c.expectedMinimum).size(), '0') + std::to_string(c.expectedMinimum);
+  EXPECT_EQ(reopenedTexts<SettingsDataManager>(dir.path()), (Texts{record0, "ÓNNYYYNNY"}));
+}
+
+const Texts kOneDay = {"0005C3CRANE" + std::string(45, ' ') + "000000"};
+
+INSTANTIATE_TEST_SUITE_P(
+    Settings, FirstRun,
+    testing::Values(FirstRunCase{"NewPlayerDay15", {}, {}, {2022, 4, 15, 12}, 0},
+                    FirstRunCase{"NewPlayerDay16", {}, {}, {2022, 4, 16, 12}, 1},
+                    FirstRunCase{"NewPlayerEarly", {}, {}, {2022, 4, 3, 12}, 0},
+                    FirstRunCase{"NewPlayerChristmas", {}, {}, {2023, 12, 25, 12}, 619},
+                    FirstRunCase{"ReturningPlayerKeepsAllDays", {}, kOneDay, {2023, 12, 25, 12}, 0},
+                    FirstRunCase{"DamagedStoreWithOneRecord", {"0300"}, kOneDay, {2023, 12, 25, 12}, 0}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+struct LoadCase {
+  const char* name;
+  Texts settings;
+  bool noMinimumDay;
+  int expectedMinimum;
+  std::string expectedType;
+  std::string expectedOptions;  // as read back through optionsRecord, with the type loaded
+  Texts expectedStore;
+};
+
+class LoadSettings : public testing::TestWithParam<LoadCase> {};
+
+TEST_P(LoadSettings, ReadsMigratesAndMendsTheStore) {
+  const LoadCase& c = GetParam();
+  TempDir dir;
+  Launch launch(dir.path(), c.settings, {}, {2023, 12, 25, 12}, c.noMinimumDay);
+  EXPECT_EQ(launch.view.minimumDayIndex, c.expectedMinimum);
+  EXPECT_EQ(launch.view.gameType, c.expectedType);
+  ContentView copy = launch.view;
+  copy.gameType = c.expectedOptions.substr(0, c.expectedOptions.size() - 8);
+  EXPECT_EQ(optionsRecord(copy), c.expectedOptions);
+  EXPECT_EQ(reopenedTexts<SettingsDataManager>(dir.path()), c.expectedStore);
+  EXPECT_EQ(launch.view.settingEntries.size(), 2u);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Settings, LoadSettings,
+    testing::Values(
+        LoadCase{"Current", {"0042", "BYYNNNYYN"}, false, 42, "B", "BYYNNNYYN", {"0042", "BYYNNNYYN"}},
+        LoadCase{"ShortRecordMigrates", {"0000", "CNN"}, false, 0, "C", "CNNYYYNNY", {"0000", "CNNYYYNNY"}},
+        LoadCase{"LowerCaseYIsFalse", {"0007", "Xy"}, false, 7, "X", "XNNYYYNNY", {"0007", "XyNYYYNNY"}},
+        LoadCase{
+            "SpanishTypeIsOneCharacter", {"0001", "ÑYN"}, false, 1, "Ñ", "ÑYNYYYNNY", {"0001", "ÑYNYYYNNY"}},
+        LoadCase{"TrimmedAndUnparsable",
+                 {" 12x\n", "  DYYYYYYYY \n"},
+                 false,
+                 0,
+                 "D",
+                 "DYYYYYYYY",
+                 {" 12x\n", "  DYYYYYYYY \n"}},
+        LoadCase{
+            "EmptyOptionsTakeTheStartType", {"0003", ""}, false, 3, "C", "ÓNNYYYNNY", {"0003", "ÓNNYYYNNY"}},
+        LoadCase{
+            "ThreeRecordsUseTheThird", {"0005", "CNN", "DYY"}, false, 5, "D", "DYYYYYNNY", {"0005", "DYY"}},
+        LoadCase{
+            "NoMinimumDaySwitch", {"0100", "CNNYYYNNY"}, true, 0, "C", "CNNYYYNNY", {"0000", "CNNYYYNNY"}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST(Settings, SavedOptionsAndMinimumDaySurviveAReopen) {
+  TempDir dir;
+  Launch launch(dir.path(), {"0042", "CNNYYYNNY"}, {}, {2023, 12, 25, 12});
+  launch.view.gameType = "Ñ";
+  launch.view.smartMode = true;
+  launch.view.useQWERTY = false;
+  {
+    SettingsDataManager settingDM(dir.path());
+    saveOptions(launch.view, settingDM);
+    EXPECT_TRUE(writeMinimumDay(settingDM, 7));
+  }
+  EXPECT_EQ(reopenedTexts<SettingsDataManager>(dir.path()), (Texts{"0007", "ÑYNYYYNNN"}));
+}
+
+}  // namespace
+}  // namespace tessarine

@@ -1,0 +1,122 @@
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+#include <fstream>
+#include <functional>
+
+#include "catalogue/fatal_error.h"
+#include "storage/data_manager.h"
+#include "storage_test_support.h"
+
+namespace tessarine {
+namespace {
+
+using testing_support::reopenedTexts;
+using testing_support::TempDir;
+using testing_support::texts;
+using Texts = std::vector<std::string>;
+
+TEST(Store, KeepsCreationOrderAndUpdatePositionAcrossReopen) {
+  TempDir dir;
+  {
+    SettingsDataManager store(dir.path());
+    for (const char* text : {"a", "b", "c"})
+      ASSERT_TRUE(store.saveEntry(text));
+    const auto entries = store.getAllEntries();
+    ASSERT_TRUE(store.updateEntry(entries[1], "B"));
+    ASSERT_TRUE(store.deleteEntry(entries[0]));
+    ASSERT_TRUE(store.saveEntry("d"));
+    ASSERT_TRUE(store.replaceEntry(store.getAllEntries()[0], "B2"));
+  }
+  EXPECT_EQ(reopenedTexts<SettingsDataManager>(dir.path()), (Texts{"c", "d", "B2"}));
+  // Each manager has its own file: the others stay empty.
+  EXPECT_TRUE(reopenedTexts<CoreDataManager>(dir.path()).empty());
+}
+
+// Another connection to the same file, to hold locks or plant a trigger.
+struct OtherConnection {
+  explicit OtherConnection(const std::filesystem::path& file) { sqlite3_open(file.c_str(), &db); }
+  ~OtherConnection() { sqlite3_close(db); }
+  bool exec(const char* sql) { return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK; }
+  sqlite3* db = nullptr;
+};
+
+struct FailureCase {
+  const char* name;
+  const char* setup;  // run on the other connection before the write
+  std::function<bool(CoreDataManager&)> write;
+  const char* line;
+};
+
+class FailedWrite : public testing::TestWithParam<FailureCase> {};
+
+TEST_P(FailedWrite, PrintsTheLineAndLeavesTheStoreAsItWas) {
+  TempDir dir;
+  CoreDataManager store(dir.path());
+  ASSERT_TRUE(store.saveEntry("first"));
+  ASSERT_TRUE(store.saveEntry("second"));
+  {
+    OtherConnection other(dir.path() / "TessarineCoreDataModel.sqlite");
+    ASSERT_TRUE(other.exec(GetParam().setup));
+    testing::internal::CaptureStdout();
+    EXPECT_FALSE(GetParam().write(store));
+    EXPECT_EQ(testing::internal::GetCapturedStdout().rfind(GetParam().line, 0), 0u);
+  }
+  EXPECT_EQ(texts(store), (Texts{"first", "second"}));
+  EXPECT_EQ(reopenedTexts<CoreDataManager>(dir.path()), (Texts{"first", "second"}));
+}
+
+const char* kRefuseBoom =
+    "CREATE TRIGGER refuse BEFORE INSERT ON entries WHEN NEW.text = 'boom' "
+    "BEGIN SELECT RAISE(ABORT, 'refused'); END;";
+
+INSTANTIATE_TEST_SUITE_P(
+    Store, FailedWrite,
+    testing::Values(FailureCase{"SaveWhileLocked", "BEGIN IMMEDIATE",
+                                [](auto& s) { return s.saveEntry("x"); }, "Failed to save day "},
+                    FailureCase{"UpdateWhileLocked", "BEGIN IMMEDIATE",
+                                [](auto& s) { return s.updateEntry(s.getAllEntries()[0], "x"); },
+                                "Failed to save context "},
+                    FailureCase{"DeleteWhileLocked", "BEGIN IMMEDIATE",
+                                [](auto& s) { return s.deleteEntry(s.getAllEntries()[0]); },
+                                "Failed to save context "},
+                    // The delete succeeds inside the transaction, the save fails: the delete must be undone.
+                    FailureCase{"ReplaceHalfDone", kRefuseBoom,
+                                [](auto& s) { return s.replaceEntry(s.getAllEntries()[0], "boom"); },
+                                "Failed to save context "}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+struct OpenCase {
+  const char* name;
+  std::function<void(const std::filesystem::path&)> open;
+  const char* message;
+};
+
+class UnopenableStore : public testing::TestWithParam<OpenCase> {};
+
+TEST_P(UnopenableStore, IsFatalWithItsOwnMessage) {
+  TempDir dir;
+  const auto notADirectory = dir.path() / "stores";
+  std::ofstream(notADirectory) << "a file where the stores should be";
+  try {
+    GetParam().open(notADirectory);
+    FAIL() << "opened a store inside a file";
+  } catch (const FatalError& error) {
+    const std::string what = error.what();
+    EXPECT_EQ(what.rfind(GetParam().message, 0), 0u) << what;
+    EXPECT_GT(what.size(), std::string(GetParam().message).size());
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Store, UnopenableStore,
+    testing::Values(
+        OpenCase{"Core", [](const auto& p) { CoreDataManager m(p); }, "Core Data Store failed "},
+        OpenCase{"Settings", [](const auto& p) { SettingsDataManager m(p); }, "Settings Data Store failed "},
+        OpenCase{"Challenge", [](const auto& p) { ChallengeDataManager m(p); },
+                 "Challenge Data Store failed "},
+        OpenCase{"Bonus", [](const auto& p) { BonusDataManager m(p); }, "Settings Data Store failed "}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+}  // namespace
+}  // namespace tessarine
