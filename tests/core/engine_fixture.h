@@ -1,0 +1,74 @@
+// A small board for the engine tests: lists held in memory, the answer as day 0 of its type.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "catalogue/catalogue.h"
+#include "catalogue/lists.h"
+#include "engine/scoring.h"
+#include "session/content_view.h"
+
+namespace tessarine::testing {
+
+class MemorySource : public ListSource {
+ public:
+  std::map<std::string, std::string> files;
+  std::optional<std::string> read(const std::string& name) const override {
+    const auto found = files.find(name);
+    if (found == files.end()) return std::nullopt;
+    return found->second;
+  }
+};
+
+inline std::string joinLines(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const auto& line : lines)
+    text += line + "\n";
+  return text;
+}
+
+struct EngineBoard {
+  MemorySource source;
+  Lists lists{source};
+  ContentView view;
+
+  EngineBoard(const std::string& type, const std::string& answer,
+              const std::vector<std::string>& validity = {}) {
+    const GameTypeInfo* info = findGameType(type);
+    if (!info->answerFile.empty()) source.files[std::string(info->answerFile)] = answer + "\n";
+    if (!info->validityFile.empty()) source.files[std::string(info->validityFile)] = joinLines(validity);
+    view.gameType = type;
+    applyCatalogue(view);
+  }
+
+  void enter(int row, const std::string& guess) {
+    view.activeRow = row;
+    const auto symbols = splitSymbols(guess);
+    for (std::size_t c = 0; c < symbols.size(); ++c) {
+      view.cellLetter[static_cast<std::size_t>(row * view.gameLetters) + c] = symbols[c];
+    }
+  }
+  // Entered and coloured as the replay does.
+  void play(const std::vector<std::string>& guesses) {
+    for (std::size_t row = 0; row < guesses.size(); ++row) {
+      enter(static_cast<int>(row), guesses[row]);
+      if (isWin(view, lists, guesses[row])) {
+        fillRow(view, lists, TileColor::green);
+      } else {
+        scoreGuess(view, lists, guesses[row]);
+      }
+    }
+  }
+  std::string rowColors(int row) const {
+    std::string text;
+    for (int c = 0; c < view.gameLetters; ++c) {
+      if (c > 0) text += ' ';
+      text += tileColorName(view.cellBackground[static_cast<std::size_t>(row * view.gameLetters + c)]);
+    }
+    return text;
+  }
+};
+
+}  // namespace tessarine::testing
