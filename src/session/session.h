@@ -39,6 +39,10 @@ class Session {
 
   // Entry and submission.
   void enterSymbol(const std::string& symbol);
+  // Whether key `symbol` has its action at the cursor's column: operators are dead where they
+  // could not stand (first column, beside the equals sign, last column) or where the game type
+  // switches them off; a symbol that is not on the keypad is never live.
+  bool keyLive(const std::string& symbol) const;
   void touchCell(int column);  // a cell of the active row becomes the active cell
   void clearCell();
   void clearRow();

@@ -27,6 +27,24 @@ void Session::enterSymbol(const std::string& symbol) {
   v.cellBorderWidth[next] = 4.0;
 }
 
+bool Session::keyLive(const std::string& symbol) const {
+  const ContentView& v = view_;
+  bool onKeypad = false;
+  for (int key = 0; key < v.keypadNumber && key < kKeypadSize; ++key)
+    onKeypad = onKeypad || v.keypadLetters[key] == symbol;
+  if (!onKeypad || !v.showKeypad) return false;
+  if (!isEquationType(v.gameType)) return true;
+  const int column = v.currentPosition % v.gameLetters;
+  const int equals = equalsIndex(v, lists_);
+  const bool beside = column == equals - 1 || column == v.gameLetters - 1;
+  if (symbol == "-") return !beside && !v.disableMinusKey;
+  const bool disabled = (symbol == "+" && v.disablePlusKey) || (symbol == "X" && v.disableMultiplyKey) ||
+                        (symbol == "/" && v.disableDivideKey);
+  if (symbol == "+" || symbol == "X" || symbol == "/")
+    return !(column == 0 || beside || column == equals + 1 || disabled);
+  return true;
+}
+
 void Session::touchCell(int column) {
   ContentView& v = view_;
   if (!v.showKeypad || column < 0 || column >= v.gameLetters) return;

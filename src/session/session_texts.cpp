@@ -1,0 +1,99 @@
+#include "session/session_texts.h"
+
+#include "catalogue/calendar.h"
+#include "catalogue/catalogue.h"
+#include "engine/scoring.h"
+#include "engine/smart_mode.h"
+
+namespace tessarine {
+namespace {
+
+bool gameWon(const ContentView& view) {
+  return !view.showKeypad && view.activeRow < view.gameRows;
+}
+
+std::string definitionOf(const ContentView& view, const Lists& lists, const std::string& word) {
+  if (view.gameType == "W" || view.gameType == "X") return lists.translation(view.gameType, word);
+  const GameTypeInfo* info = findGameType(view.gameType);
+  if (info == nullptr || info->typeOfGame != "L" || info->validityFile.empty()) return {};
+  return lists.definition(std::string(info->validityFile), word);
+}
+
+}  // namespace
+
+std::string scoreLine(const ContentView& view) {
+  if (view.showKeypad) return {};
+  return std::string(scoreName(view.activeRow, view.gameType, view.EnglishTranslation));
+}
+
+MarkSymbol scoreMark(const ContentView& view) {
+  if (view.showKeypad || !isPerfectGame(view)) return {};
+  const GameTypeInfo* info = findGameType(view.gameType);
+  const int score = gameWon(view) ? view.activeRow + 1 : view.gameRows + 1;
+  if (info != nullptr && score < info->par) return {"graduationcap.fill", "currentMode"};
+  return {"star.fill", "yellow"};
+}
+
+std::string hintsCountLine(const ContentView& view) {
+  if (!view.displayHintsNumbers) return {};
+  return std::to_string(view.numberOfAvailableHints) + std::string(kHintsCountSuffix);
+}
+
+std::string definitionLine(const ContentView& view, const Lists& lists) {
+  if (view.showKeypad || !view.showDefinitions) return {};
+  return definitionOf(view, lists, mysteryAnswer(view, lists));
+}
+
+std::string hintDefinitionLine(const ContentView& view, const Lists& lists) {
+  if (!view.showHintDefinition) return {};
+  return definitionOf(view, lists, rowWord(view, view.activeRow));
+}
+
+std::string shownDateText(const ContentView& view, const Clock& clock) {
+  return displayDateString(clock, view.activeDate, view.thankYouFlag, view.EnglishTranslation);
+}
+
+std::string latestOpenLabel(const ContentView& view) {
+  if (view.latestUnfinishedDate < 1)
+    return view.EnglishTranslation ? "Latest unfinished day:" : "Último día sin terminar:";
+  return view.EnglishTranslation ? "Latest available day:" : "Último día disponible:";
+}
+
+std::string latestOpenValue(const ContentView& view, const Clock& clock) {
+  const auto date = [&](int offset) {
+    return displayDateString(clock, offset, view.thankYouFlag, view.EnglishTranslation);
+  };
+  if (view.latestUnfinishedDate < 1) return date(view.latestUnfinishedDate);
+  if (view.latestAvailableDate < 1 && view.gamesCompleted < view.latestDateIndex + 1 - view.minimumDayIndex)
+    return date(view.latestAvailableDate);
+  return view.EnglishTranslation ? "All available games have been played."
+                                 : "Se han jugado todos los juegos disponibles.";
+}
+
+std::string_view dateListTitle(const ContentView& view) {
+  return view.EnglishTranslation ? "Select Date:" : "Seleccione fecha";
+}
+
+MarkSymbol rowMark(const ContentView& view, int row) {
+  if (row >= 1 && row <= kMarkedRows) {
+    const int mark = row - 1;
+    if (view.singleHint[mark]) return {"exclamationmark.questionmark", "red"};
+    if (view.usedHints[mark]) return {"questionmark", "red"};
+    if (view.smartModeError[mark]) return {"exclamationmark.2", "red"};
+    if (view.validGuessError[mark]) return {"exclamationmark.triangle.fill", "yellow"};
+    if (view.smartModeCorrect[mark]) return {"star.fill", "yellow"};
+  }
+  const bool accepted = row < view.activeRow || (gameWon(view) && row == view.activeRow);
+  if (accepted) return {"multiply", "red"};
+  return {"questionmark.circle", "blue"};
+}
+
+MarkSymbol familyMark(const ContentView& view, int row) {
+  if (view.gameType == "2" || view.gameType == "3")
+    return {row == 0 ? "graduationcap.fill" : "graduationcap.blank", "currentMode"};
+  if (view.gameType == "G" || view.gameType == "I" || view.gameType == "K")
+    return {row == 0 ? "parkingsign.circle" : "parkingsign.blank", "currentMode"};
+  return {};
+}
+
+}  // namespace tessarine
