@@ -48,6 +48,13 @@ bool run(sqlite3* db, const char* sql, Bind bind) {
   return statement.ok() && bind(statement.get()) && sqlite3_step(statement.get()) == SQLITE_DONE;
 }
 
+int schemaVersion(sqlite3* db) {
+  Statement statement(db, "PRAGMA user_version");
+  return statement.ok() && sqlite3_step(statement.get()) == SQLITE_ROW
+             ? sqlite3_column_int(statement.get(), 0)
+             : -1;
+}
+
 bool bindText(sqlite3_stmt* stmt, int index, const std::string& text) {
   return sqlite3_bind_text(stmt, index, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT) ==
          SQLITE_OK;
@@ -64,11 +71,13 @@ DataManager::DataManager(const std::filesystem::path& directory, std::string sto
   int rc = sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
   if (rc == SQLITE_OK) {
     // One table of one text attribute; rowid order is creation order, and an update keeps it.
+    // An existing store is only read here: opening it writes nothing.
     const bool ready = exec(db_, "PRAGMA synchronous=FULL") &&
-                       exec(db_,
-                            "CREATE TABLE IF NOT EXISTS entries (id INTEGER PRIMARY KEY AUTOINCREMENT, "
-                            "text TEXT)") &&
-                       exec(db_, ("PRAGMA user_version=" + std::to_string(kSchemaVersion)).c_str());
+                       (schemaVersion(db_) == kSchemaVersion ||
+                        (exec(db_,
+                              "CREATE TABLE IF NOT EXISTS entries (id INTEGER PRIMARY KEY AUTOINCREMENT, "
+                              "text TEXT)") &&
+                         exec(db_, ("PRAGMA user_version=" + std::to_string(kSchemaVersion)).c_str())));
     if (!ready) rc = sqlite3_errcode(db_) == SQLITE_OK ? SQLITE_ERROR : sqlite3_errcode(db_);
   }
   if (rc != SQLITE_OK) {

@@ -178,6 +178,12 @@ std::string recordCharacter(const DayRecord& record, int position) {
   return position >= 0 && static_cast<std::size_t>(position) < symbols.size() ? symbols[position] : " ";
 }
 
+std::vector<std::string> restoredCells(const DayRecord& record) {
+  std::vector<std::string> symbols = splitSymbols(record.tileText);
+  symbols.erase(symbols.begin(), symbols.begin() + std::min<std::size_t>(symbols.size(), record.firstCell));
+  return symbols;
+}
+
 void padDayRecords(CoreDataManager& coreDM) {
   const std::vector<Entry> entries = coreDM.getAllEntries();
   if (entries.empty() || symbolCount(entries.front().text) >= static_cast<std::size_t>(kDayRecordLength))

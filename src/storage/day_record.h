@@ -50,6 +50,10 @@ std::vector<DayRecord> readDayRecords(const CoreDataManager& coreDM, std::ostrea
 // The character at record position `position` (a blank past the end); cells start at `firstCell`.
 std::string recordCharacter(const DayRecord& record, int position);
 
+// The replay's cells: the characters of `tileText` from cell 0 on, one string each. Empty when the
+// game was not begun.
+std::vector<std::string> restoredCells(const DayRecord& record);
+
 // Brings records of an older, shorter format to full length at launch. Only the first record is
 // looked at: when it is long enough, all are taken to be current.
 void padDayRecords(CoreDataManager& coreDM);

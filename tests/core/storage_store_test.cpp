@@ -108,6 +108,12 @@ TEST_P(UnopenableStore, IsFatalWithItsOwnMessage) {
   }
 }
 
+TEST(Store, AFileThatIsNoDatabaseIsFatal) {
+  TempDir dir;
+  std::ofstream(dir.path() / "TessarineBonusData.sqlite") << std::string(4096, 'x');
+  EXPECT_THROW(BonusDataManager store(dir.path()), FatalError);
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Store, UnopenableStore,
     testing::Values(
