@@ -33,9 +33,21 @@ NOTICE_SOURCES = [
 
 
 class Writer:
-    def __init__(self, out):
+    def __init__(self, out, released_through=None):
         self.out = out
+        self.released_through = released_through
         os.makedirs(out, exist_ok=True)
+
+    def _guard_released_days(self, name, lines):
+        """Days that players have already seen keep their answers: refuse to rewrite them."""
+        path = os.path.join(self.out, name + ".txt")
+        if self.released_through is None or not os.path.exists(path):
+            return
+        with open(path, encoding="utf-8") as f:
+            old = f.read().split("\n")
+        for day in range(min(self.released_through + 1, len(lines))):
+            if day >= len(old) or old[day] != lines[day]:
+                sys.exit(f"error: {name} would change day {day}, already released; keep its sources as they were")
 
     def lines(self, name, lines):
         with open(os.path.join(self.out, name + ".txt"), "w", encoding="utf-8", newline="\n") as f:
@@ -44,7 +56,9 @@ class Writer:
 
     def answers(self, name, pool):
         days = DAYS_BY_FILE.get(name, DAYS)
-        self.lines(name, schedule(pool, days, f"{SEED}:{name}"))
+        lines = schedule(pool, days, f"{SEED}:{name}")
+        self._guard_released_days(name, lines)
+        self.lines(name, lines)
         print(f"  pool {len(set(pool))}", file=sys.stderr)
 
 
@@ -66,6 +80,7 @@ def write_spanish(w):
         # The answers are real words: one missing from the word lists is added, never dropped.
         w.lines(f"{length}SLetterWords", sorted(spanish.valid_words(length) | set(words)))
         w.answers(f"{length}SLetterAnswers", words)
+        print(f"  {spanish.common_share(words)} of them among the 10,000 most used Spanish words", file=sys.stderr)
         w.lines(f"{length}LetterTranslation", [f"{word} {text}" for word, text in rows])
 
 
@@ -94,8 +109,10 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--out", default=os.path.join(HERE, "..", "..", "resources"))
     parser.add_argument("--only", choices=["english", "spanish", "numbers"], help="rebuild one family")
+    parser.add_argument("--released-through", type=int, metavar="DAY",
+                        help="fail rather than change the answer of any day index up to DAY")
     args = parser.parse_args()
-    w = Writer(os.path.normpath(args.out))
+    w = Writer(os.path.normpath(args.out), args.released_through)
     families = {"english": write_english, "spanish": write_spanish, "numbers": write_numbers}
     for name, build in families.items():
         if args.only in (None, name):
