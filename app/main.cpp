@@ -1,14 +1,54 @@
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
+#include <QQmlContext>
 #include <QQuickStyle>
+#include <QQuickWindow>
+#include <memory>
 
+#include "app_environment.h"
+#include "catalogue/fatal_error.h"
+#include "catalogue/lists.h"
+#include "device_random.h"
+#include "game_bridge.h"
+#include "qt_resource_list_source.h"
+#include "screenshot.h"
+#include "session/session.h"
+
+// Builds the services, hands them to the session, and puts the bridge in front of the QML.
 int main(int argc, char* argv[]) {
   QGuiApplication app(argc, argv);
   QGuiApplication::setOrganizationName("Tessarine");
   QGuiApplication::setApplicationName("Tessarine");
   QQuickStyle::setStyle("Basic");
+
+  const AppEnvironment environment = readAppEnvironment();
+  const QtResourceListSource listSource;
+  const tessarine::Lists lists(listSource);
+  DeviceRandom random;
+
+  GameBridge bridge;
+  std::unique_ptr<tessarine::Session> session;
+  if (!environment.problem.isEmpty()) {
+    bridge.fail(environment.problem);
+  } else {
+    try {
+      session =
+          std::make_unique<tessarine::Session>(environment.dataDirectory, lists, *environment.clock, random);
+      bridge.attach(session.get());
+    } catch (const tessarine::FatalError& error) {
+      bridge.fail(QString::fromStdString(error.what()));
+    }
+  }
+  bridge.launch();
+  QObject::connect(&app, &QGuiApplication::applicationStateChanged, &bridge,
+                   &GameBridge::onApplicationStateChanged);
+
   QQmlApplicationEngine engine;
+  engine.rootContext()->setContextProperty(QStringLiteral("game"), &bridge);
   engine.load(QUrl(QStringLiteral("qrc:/Tessarine/qml/Main.qml")));
   if (engine.rootObjects().isEmpty()) return 1;
+  if (auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst())) {
+    runScriptedSession(*window, bridge);
+  }
   return QGuiApplication::exec();
 }

@@ -1,1 +1,0 @@
-// The bridge's QObject adapters are added beside this file.

@@ -1,0 +1,17 @@
+pragma Singleton
+import QtQuick
+
+// The tile colours as drawn, by the names the core gives them, and the ink that reads on each.
+QtObject {
+    readonly property var fills: ({
+        white: "#ffffff", gray: "#8e8e93", green: "#34c759", blue: "#007aff", yellow: "#ffcc00",
+        orange: "#ff9500", red: "#ff3b30", cyan: "#32ade6", purple: "#af52de", black: "#000000",
+        currentMode: "#000000"
+    })
+    readonly property var darkInk: ["white", "yellow", "cyan"]
+
+    function fill(name) { return fills[name] !== undefined ? fills[name] : fills.white }
+    function ink(name) { return darkInk.indexOf(name) >= 0 ? "#000000" : "#ffffff" }
+    // Text and symbols that must stand out on the light background.
+    readonly property color currentMode: "#000000"
+}

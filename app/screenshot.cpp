@@ -1,0 +1,90 @@
+#include "screenshot.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QGuiApplication>
+#include <QImage>
+#include <QQuickWindow>
+#include <QTimer>
+#include <cstdio>
+#include <memory>
+
+#include "game_bridge.h"
+
+namespace {
+
+// Resident memory in kB, from the kernel's own account of this process.
+long residentKilobytes() {
+  QFile status(QStringLiteral("/proc/self/status"));
+  if (!status.open(QIODevice::ReadOnly)) return -1;
+  for (const QByteArray& line : status.readAll().split('\n')) {
+    if (line.startsWith("VmRSS:")) return line.mid(6).trimmed().split(' ').value(0).toLong();
+  }
+  return -1;
+}
+
+void replay(GameBridge& bridge, const QString& script) {
+  for (const QString& step : script.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+    if (!applyScriptStep(bridge, step)) std::fprintf(stderr, "Unknown script step: %s\n", qPrintable(step));
+  }
+}
+
+}  // namespace
+
+bool applyScriptStep(GameBridge& bridge, const QString& step) {
+  const QString lower = step.toLower();
+  if (lower == "enter")
+    bridge.submitGuess();
+  else if (lower == "backspace")
+    bridge.clearCell();
+  else if (lower == "clearrow")
+    bridge.clearRow();
+  else if (lower == "green")
+    bridge.moveCorrectLetters();
+  else if (lower == "hint")
+    bridge.pressHints();
+  else if (lower == "confirm")
+    bridge.confirmHint();
+  else if (lower == "today")
+    bridge.goToToday();
+  else if (lower == "latest")
+    bridge.goToLatestOpen();
+  else if (lower.startsWith("type:"))
+    bridge.chooseGameType(step.mid(5));
+  else if (lower.startsWith("pick:"))
+    bridge.pickDate(step.mid(5).toInt());
+  else {
+    for (const QChar symbol : step) {
+      if (!bridge.typeText(QString(symbol))) return false;
+    }
+  }
+  return true;
+}
+
+void runScriptedSession(QQuickWindow& window, GameBridge& bridge) {
+  const QString shot = qEnvironmentVariable("TESSARINE_SCREENSHOT");
+  const bool timing = qEnvironmentVariableIsSet("TESSARINE_FIRST_FRAME");
+  if (shot.isEmpty() && !timing) return;
+  auto once = std::make_shared<bool>(false);
+  QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&window, &bridge, shot, timing, once] {
+    if (*once) return;
+    *once = true;
+    if (timing) {
+      std::printf("first-frame-epoch-ms %lld\nresident-kB %ld\n", QDateTime::currentMSecsSinceEpoch(),
+                  residentKilobytes());
+      std::fflush(stdout);
+      if (shot.isEmpty()) {
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        return;
+      }
+    }
+    replay(bridge, qEnvironmentVariable("TESSARINE_SCRIPT"));
+    // Let the bindings settle and a frame render before the grab.
+    QTimer::singleShot(200, &window, [&window, shot] {
+      const QImage image = window.grabWindow();
+      const bool saved = image.save(shot);
+      std::fprintf(stderr, "%s %s\n", saved ? "Saved" : "Could not save", qPrintable(shot));
+      QCoreApplication::exit(saved ? 0 : 1);
+    });
+  });
+}

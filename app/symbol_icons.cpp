@@ -1,0 +1,47 @@
+#include "symbol_icons.h"
+
+#include <QHash>
+
+namespace {
+
+// Codepoints from the Material Icons font: the nearest drawing to each system symbol.
+const QHash<QString, char16_t>& table() {
+  static const QHash<QString, char16_t> icons = {
+      {QStringLiteral("gearshape"), 0xe8b8},                      // settings
+      {QStringLiteral("info.circle"), 0xe88f},                    // info_outline
+      {QStringLiteral("square.and.arrow.up"), 0xe6b8},            // ios_share
+      {QStringLiteral("trash.square"), 0xe872},                   // delete
+      {QStringLiteral("clear"), 0xe14a},                          // backspace
+      {QStringLiteral("arrow.down.app"), 0xe8d7},                 // system_update_alt
+      {QStringLiteral("calendar"), 0xe935},                       // calendar_today
+      {QStringLiteral("chevron.right"), 0xe5cc},                  // chevron_right
+      {QStringLiteral("sunrise"), 0xe1c6},                        // wb_twilight
+      {QStringLiteral("figure.wave"), 0xe766},                    // waving_hand
+      {QStringLiteral("star.fill"), 0xe838},                      // star
+      {QStringLiteral("exclamationmark.questionmark"), 0xe94c},   // contact_support
+      {QStringLiteral("questionmark"), 0xeb8b},                   // question_mark
+      {QStringLiteral("exclamationmark.2"), 0xe645},              // priority_high
+      {QStringLiteral("exclamationmark.triangle.fill"), 0xe002},  // warning
+      {QStringLiteral("multiply"), 0xe5cd},                       // close
+      {QStringLiteral("questionmark.circle"), 0xe8fd},            // help_outline
+      {QStringLiteral("graduationcap.fill"), 0xe80c},             // school
+      {QStringLiteral("parkingsign.circle"), 0xe54f},             // local_parking
+      {QStringLiteral("lightbulb"), 0xe0f0},                      // lightbulb: the hints button
+      {QStringLiteral("checkmark.square"), 0xe834},               // check_box: the green button
+      {QStringLiteral("graduationcap.blank"), 0},
+      {QStringLiteral("parkingsign.blank"), 0},
+  };
+  return icons;
+}
+
+}  // namespace
+
+QString SymbolIcons::glyph(const QString& symbolName) {
+  const auto found = table().constFind(symbolName);
+  if (found == table().constEnd() || found.value() == 0) return {};
+  return QString(QChar(found.value()));
+}
+
+bool SymbolIcons::knows(const QString& symbolName) {
+  return table().contains(symbolName);
+}
