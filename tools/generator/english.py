@@ -12,6 +12,8 @@ NODE = os.path.join(HERE, "node_modules")
 
 # How many of the most used candidates make an everyday pool, by length.
 ANSWER_POOL = {3: 1000, 4: 1400, 5: 2200, 6: 2600, 7: 2600, 8: 2600}
+# Everyday answers are seen at least this often in the SUBTLEX film corpus: PYX and NTH are not everyday.
+ANSWER_MIN_COUNT = 10
 # Genius answers are drawn from words seen at most this often in the SUBTLEX film corpus (51 million words).
 GENIUS_MAX_COUNT = 40
 GENIUS_MAX_SCOWL = 70
@@ -84,7 +86,8 @@ class English:
         return sorted(words, key=lambda w: (-self.count.get(w, 0), w))
 
     def answers(self, length):
-        pool = [w for w in self.common if len(w) == length and self._candidate(w)]
+        pool = [w for w in self.common if len(w) == length and self.count.get(w, 0) >= ANSWER_MIN_COUNT
+                and self._candidate(w)]
         return self._by_use(pool)[:ANSWER_POOL[length]]
 
     def genius(self, length, everyday):
