@@ -16,6 +16,7 @@ void Session::goToLatestOpen() {
   const int unfinished = view_.latestUnfinishedDate;
   // The later of the two days wins; a tie goes to the unplayed day.
   int picked = available != 1 && (unfinished >= 1 || available >= unfinished) ? available : unfinished;
+  if (picked == 1) return;  // every open day is finished: there is no day to go to
   const int daysNow = daysFromApril1st(clock_);
   if (view_.latestDateIndex != daysNow - 1) picked += view_.latestDateIndex - daysNow + 1;
   view_.activeDate = picked;

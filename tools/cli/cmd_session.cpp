@@ -169,7 +169,10 @@ class Runner {
   void date(const std::string& argument) {
     Session& s = *session_;
     if (argument == "today") return s.goToToday();
-    if (argument == "latest") return s.goToLatestOpen();
+    if (argument == "latest") {
+      if (s.view().disableFirst) throw CommandError{"the latest-open-day button is off"};
+      return s.goToLatestOpen();
+    }
     if (argument == "forward") return s.goForward();
     if (argument.rfind("pick ", 0) == 0) {
       const int line = number(argument.substr(5), "date pick N");
