@@ -61,6 +61,8 @@ INSTANTIATE_TEST_SUITE_P(
                  {"ABBEY"},
                  {"CRANE", "CRATE", "GRACE", "TRACE", "TRADE"},
                  HintTestForm::noGreen},
+        // Same list name, other contents: nothing is served from the earlier list.
+        HintCase{"C", "CRANE", {"CRATE", "CRANE", "TRADE"}, {"TRADE"}, {"CRANE"}, HintTestForm::full},
         HintCase{"W",
                  "NIÑA",
                  {"AÑOS", "CASA", "NIÑA", "NIÑO", "PIÑA", "SEÑA"},
