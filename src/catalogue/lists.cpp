@@ -8,7 +8,9 @@ namespace {
 
 constexpr std::string_view kWhitespace = " \t\n\r\v\f";
 
-bool isContinuationByte(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
+bool isContinuationByte(char c) {
+  return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
 
 // Byte length of the first `symbols` UTF-8 characters of `text`, or npos when it is shorter.
 std::size_t prefixBytes(std::string_view text, std::size_t symbols) {
@@ -16,9 +18,33 @@ std::size_t prefixBytes(std::string_view text, std::size_t symbols) {
   for (std::size_t n = 0; n < symbols; ++n) {
     if (i >= text.size()) return std::string_view::npos;
     ++i;
-    while (i < text.size() && isContinuationByte(text[i])) ++i;
+    while (i < text.size() && isContinuationByte(text[i]))
+      ++i;
   }
   return i;
+}
+
+// A file that does not decode as UTF-8 is as unreadable as a missing one.
+bool isValidUtf8(std::string_view text) {
+  for (std::size_t i = 0; i < text.size();) {
+    const auto lead = static_cast<unsigned char>(text[i]);
+    std::size_t extra = 0;
+    if (lead >= 0xC2 && lead <= 0xDF) {
+      extra = 1;
+    } else if (lead >= 0xE0 && lead <= 0xEF) {
+      extra = 2;
+    } else if (lead >= 0xF0 && lead <= 0xF4) {
+      extra = 3;
+    } else if (lead >= 0x80) {
+      return false;
+    }
+    if (text.size() - i <= extra) return false;
+    for (std::size_t k = 1; k <= extra; ++k) {
+      if (!isContinuationByte(text[i + k])) return false;
+    }
+    i += extra + 1;
+  }
+  return true;
 }
 
 }  // namespace
@@ -35,7 +61,8 @@ std::vector<std::string> splitSymbols(std::string_view text) {
   std::size_t i = 0;
   while (i < text.size()) {
     std::size_t j = i + 1;
-    while (j < text.size() && isContinuationByte(text[j])) ++j;
+    while (j < text.size() && isContinuationByte(text[j]))
+      ++j;
     symbols.emplace_back(text.substr(i, j - i));
     i = j;
   }
@@ -44,14 +71,15 @@ std::vector<std::string> splitSymbols(std::string_view text) {
 
 std::size_t symbolCount(std::string_view text) {
   std::size_t count = 0;
-  for (char c : text) count += isContinuationByte(c) ? 0 : 1;
+  for (char c : text)
+    count += isContinuationByte(c) ? 0 : 1;
   return count;
 }
 
 const ListFile& Lists::file(const std::string& name) const {
   if (auto found = files_.find(name); found != files_.end()) return *found->second;
   auto text = source_.read(name);
-  if (!text) {
+  if (!text || !isValidUtf8(*text)) {
     // The three-letter answers have always reported their validity file; players' bug reports quote it.
     const std::string reported = name == "3LetterAnswers" ? "3LetterWords" : name;
     throw FatalError("Could not load " + reported + ".txt from bundle.");

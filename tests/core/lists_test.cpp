@@ -91,6 +91,8 @@ TEST(Lists, MissingFileIsFatalWithItsName) {
   };
   for (const auto& c : cases) {
     MemorySource source;
+    source.files["3LetterWords"] = "CAT\n";
+    source.files["5LetterWords"] = "CRANE\n\xC3(\n";  // a broken Ñ: the text does not decode
     const Lists lists(source);
     try {
       c.use(lists);
