@@ -23,6 +23,7 @@ Column {
                 model: game.gameLetters
                 delegate: Tile {
                     readonly property int cell: boardRow.index * game.gameLetters + index
+                    objectName: "cell_" + cell
                     letter: game.cellLetters[cell] || ""
                     colorName: game.cellColors[cell] || "white"
                     borderWidth: game.cellBorders[cell] || 1

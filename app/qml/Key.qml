@@ -11,6 +11,7 @@ Rectangle {
     property real keyWidth: game.keypadWidth
     signal pressed(int keyIndex)
 
+    objectName: "key_" + label
     width: keyWidth
     height: keyWidth * 1.45
     radius: 4

@@ -32,6 +32,7 @@ Column {
         spacing: 10
 
         IconButton {
+            objectName: "clearRowButton"
             symbol: "trash.square"
             name: "Clear row"
             onClicked: game.clearRow()

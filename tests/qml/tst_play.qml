@@ -1,0 +1,69 @@
+import QtQuick
+import QtTest
+import Tessarine
+
+// A short game of "C" played on the main screen, by touch and by the keyboard.
+Item {
+    width: 390
+    height: 844
+
+    ContentView {
+        id: screen
+        anchors.fill: parent
+    }
+
+    TestCase {
+        id: testCase
+        name: "Play"
+        when: windowShown
+
+        function tap(name) {
+            const item = findChild(screen, name)
+            verify(item !== null, "no item " + name)
+            mouseClick(item)
+        }
+
+        function typeByTouch(word) {
+            for (const letter of word) tap("key_" + letter)
+        }
+
+        function rowColors(row) {
+            return game.cellColors.slice(row * game.gameLetters, (row + 1) * game.gameLetters)
+        }
+
+        // The first valid word that is not today's answer, so the game goes on after it.
+        function openingWord() {
+            return testAnswer === "CRANE" ? "SLOTH" : "CRANE"
+        }
+
+        function test_game_by_touch_and_keyboard() {
+            compare(testAnswer.length, 5)
+            typeByTouch(openingWord())
+            compare(game.cellLetters.slice(0, 5).join(""), openingWord())
+            verify(game.submitEnabled)
+            tap("submitButton")
+            compare(game.activeRow, 1)
+            for (const color of rowColors(0))
+                verify(["gray", "green", "blue", "yellow", "orange"].indexOf(color) >= 0, color)
+
+            // A word that is not on the list turns the row cyan and leaves it open.
+            screen.forceActiveFocus()
+            for (const letter of "QZXQZ") keyClick(letter)
+            keyClick(Qt.Key_Return)
+            compare(rowColors(1), ["cyan", "cyan", "cyan", "cyan", "cyan"])
+            compare(game.activeRow, 1)
+            keyClick(Qt.Key_Backspace)
+            compare(game.submitEnabled, false)
+
+            // Clearing the row and typing the answer wins on the second row.
+            tap("clearRowButton")
+            typeByTouch(testAnswer)
+            tap("submitButton")
+            compare(rowColors(1), ["green", "green", "green", "green", "green"])
+            compare(game.showKeypad, false)
+            compare(game.scoreLine, "Eagle")
+            const tile = findChild(screen, "cell_5")
+            compare(tile.Accessible.name, testAnswer[0] + ", green")
+        }
+    }
+}
