@@ -10,16 +10,32 @@
 namespace tessarine {
 namespace {
 
-bool isDigit(const std::string& symbol) {
+bool isDigit(std::string_view symbol) {
   return symbol.size() == 1 && symbol[0] >= '0' && symbol[0] <= '9';
 }
 
-std::string joined(const std::vector<std::string>& symbols, std::size_t from, std::size_t count) {
-  std::string text;
-  for (std::size_t i = from; i < std::min(symbols.size(), from + count); ++i)
-    text += symbols[i];
-  return text;
-}
+// The characters of a UTF-8 text by position, as views into it: runs of characters are substrings.
+class Characters {
+ public:
+  explicit Characters(std::string_view text) : text_(text) {
+    starts_.reserve(text.size() + 1);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80) starts_.push_back(i);
+    }
+    starts_.push_back(text.size());
+  }
+  std::size_t size() const { return starts_.size() - 1; }
+  std::string_view at(std::size_t position) const { return run(position, 1); }
+  std::string_view run(std::size_t from, std::size_t count) const {
+    from = std::min(from, size());
+    const std::size_t to = std::min(size(), from + count);
+    return text_.substr(starts_[from], starts_[to] - starts_[from]);
+  }
+
+ private:
+  std::string_view text_;
+  std::vector<std::size_t> starts_;
+};
 
 // The record as one printable line: control and non-ASCII bytes are escaped.
 std::string printable(std::string_view text) {
@@ -106,7 +122,7 @@ std::optional<DayRecord> parseDayRecord(const Entry& entry, std::string& problem
     problem = "not valid UTF-8";
     return std::nullopt;
   }
-  const std::vector<std::string> symbols = splitSymbols(entry.text);
+  const Characters symbols(entry.text);
   if (symbols.size() < static_cast<std::size_t>(kDayRecordLength)) {
     problem = "too short (" + std::to_string(symbols.size()) + " of 62 characters)";
     return std::nullopt;
@@ -118,42 +134,42 @@ std::optional<DayRecord> parseDayRecord(const Entry& entry, std::string& problem
   // A five-digit day index makes the record one character longer.
   const std::size_t dayDigits = symbols.size() - kDayRecordLength + 4;
   for (std::size_t i = 0; i < dayDigits; ++i) {
-    if (!isDigit(symbols[i])) {
+    if (!isDigit(symbols.at(i))) {
       problem = problemAt(i, "of the day index is not a digit");
       return std::nullopt;
     }
   }
-  const GameTypeInfo* type = findGameType(symbols[dayDigits]);
+  const GameTypeInfo* type = findGameType(symbols.at(dayDigits));
   if (type == nullptr) {
-    problem = "unknown game type \"" + printable(symbols[dayDigits]) + "\"";
+    problem = "unknown game type \"" + printable(symbols.at(dayDigits)) + "\"";
     return std::nullopt;
   }
-  const std::string& scoreSymbol = symbols[dayDigits + 1];
+  const std::string_view scoreSymbol = symbols.at(dayDigits + 1);
   if (!isDigit(scoreSymbol)) {
     problem = problemAt(dayDigits + 1, "(the score) is not a digit");
     return std::nullopt;
   }
   const int score = scoreSymbol[0] - '0';
   if (score > type->rows + 1) {
-    problem = "score " + scoreSymbol + " is beyond " + std::to_string(type->rows + 1) + " for game type " +
-              symbols[dayDigits];
+    problem = "score " + std::string(scoreSymbol) + " is beyond " + std::to_string(type->rows + 1) +
+              " for game type " + std::string(symbols.at(dayDigits));
     return std::nullopt;
   }
   const std::size_t marksFrom = symbols.size() - kMarkedRows;
   for (std::size_t i = marksFrom; i < symbols.size(); ++i) {
-    if (symbols[i] != " " && !isDigit(symbols[i])) {
+    if (symbols.at(i) != " " && !isDigit(symbols.at(i))) {
       problem = problemAt(i, "(a row mark) is neither a digit nor a blank");
       return std::nullopt;
     }
   }
   DayRecord record;
   record.entry = entry;
-  record.key = joined(symbols, 0, dayDigits + 1);
-  record.dayIndex = parseIntOr(joined(symbols, 0, dayDigits), 0);
-  record.gameType = symbols[dayDigits];
+  record.key = std::string(symbols.run(0, dayDigits + 1));
+  record.dayIndex = parseIntOr(symbols.run(0, dayDigits), 0);
+  record.gameType = symbols.at(dayDigits);
   record.score = score;
-  record.tileText = std::string(trimView(joined(symbols, 0, kTileTextLength + dayDigits - 4)));
-  record.marks = joined(symbols, marksFrom, kMarkedRows);
+  record.tileText = std::string(trimView(symbols.run(0, kTileTextLength + dayDigits - 4)));
+  record.marks = std::string(symbols.run(marksFrom, kMarkedRows));
   record.firstCell = static_cast<int>(dayDigits) + 2;
   return record;
 }
@@ -174,8 +190,10 @@ std::vector<DayRecord> readDayRecords(const CoreDataManager& coreDM, std::ostrea
 }
 
 std::string recordCharacter(const DayRecord& record, int position) {
-  const std::vector<std::string> symbols = splitSymbols(record.entry.text);
-  return position >= 0 && static_cast<std::size_t>(position) < symbols.size() ? symbols[position] : " ";
+  const Characters symbols(record.entry.text);
+  return position >= 0 && static_cast<std::size_t>(position) < symbols.size()
+             ? std::string(symbols.at(position))
+             : " ";
 }
 
 std::vector<std::string> restoredCells(const DayRecord& record) {
