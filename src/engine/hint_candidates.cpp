@@ -111,7 +111,8 @@ const CandidateList& candidateList(const ListFile& file, const std::string& list
   return *entry.list;
 }
 
-CandidateTest::CandidateTest(const ContentView& view, const SymbolTable& symbols) {
+CandidateTest::CandidateTest(const ContentView& view, const SymbolTable& symbols)
+    : masksExact_(symbols.masksExact()) {
   if (view.hintLettersUnique.empty()) {
     form_ = HintTestForm::grayOnly;
   } else if (view.greenLetterPosition.size() == 1) {
@@ -145,16 +146,23 @@ CandidateTest::CandidateTest(const ContentView& view, const SymbolTable& symbols
                        i < view.hintOpenGroups.size() ? view.hintOpenGroups[i] : std::vector<int>{},
                        bound(view.hintLettersExact, 0), bound(view.hintLettersLower, 0),
                        bound(view.hintLettersUpper, kMaxWordSymbols)});
+    const Count& added = counts_.back();
+    if (added.code != SymbolTable::kAbsent && (added.exact >= 1 || added.lower >= 1)) {
+      requiredMask_ |= std::uint64_t{1} << (added.code % 64);
+    }
   }
 }
 
 bool CandidateTest::passes(const EncodedWord& word, std::uint64_t mask) const {
-  // Gray first, most words fail here: the mask only says "maybe", the columns decide.
+  // Gray first, most words fail here. With exact masks one AND decides; otherwise the mask only
+  // says "maybe" and the columns decide.
   if ((mask & grayMask_) != 0) {
+    if (masksExact_) return false;
     for (SymbolCode code : word) {
       if (code != SymbolTable::kAbsent && gray_.test(code)) return false;
     }
   }
+  if (masksExact_ && (mask & requiredMask_) != requiredMask_) return false;  // a known symbol is missing
   const auto at = [&word](int column) {
     return column >= 0 && column < kMaxWordSymbols ? word[static_cast<std::size_t>(column)]
                                                    : SymbolTable::kAbsent;

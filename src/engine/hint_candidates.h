@@ -28,6 +28,8 @@ class SymbolTable {
   SymbolCode add(std::string_view symbol);
   // Codes of the first `length` symbols of `text`; false when it is shorter or longer.
   bool encode(std::string_view text, int length, EncodedWord& out) const;
+  // With fewer than 64 codes a word's mask names its symbols exactly.
+  bool masksExact() const { return next_ <= 64; }
 
  private:
   std::array<SymbolCode, 128> ascii_{};
@@ -65,7 +67,9 @@ class CandidateTest {
     int exact, lower, upper;
   };
   HintTestForm form_;
+  bool masksExact_;
   std::uint64_t grayMask_ = 0;
+  std::uint64_t requiredMask_ = 0;  // symbols every candidate must hold
   std::bitset<256> gray_;
   std::vector<std::pair<int, SymbolCode>> green_, closed_;
   std::vector<Count> counts_;
