@@ -1,0 +1,38 @@
+# The session runner on the fixture lists, one fresh data folder per check.
+set(SESSION_FIXTURE ${CMAKE_CURRENT_SOURCE_DIR}/data/session)
+
+function(session_cli_test name script expected)
+  set(data ${CMAKE_CURRENT_BINARY_DIR}/session_cli/${name})
+  add_test(NAME cli.session.${name}
+           COMMAND sh -c "rm -rf '${data}' && printf '${script}' | '$<TARGET_FILE:tessarine-cli>' session --data '${data}' --resources '${SESSION_FIXTURE}' --today 2024-01-10 --seed 3")
+  set_tests_properties(cli.session.${name} PROPERTIES ENVIRONMENT "TZ=America/New_York"
+                       PASS_REGULAR_EXPRESSION "${expected}")
+endfunction()
+
+session_cli_test(win
+  "guess CRANE\\nguess TOWEL\\nguess WIELD\\nboard\\nstate gamesCompleted\\nstate scoreLine\\n"
+  "CRANE XXXXY\nTOWEL XXYYY\nWIELD GGGGG\n[.]+ W+\n[.]+ W+\n[.]+ W+\nactiveRow=2 showKeypad=false\ngamesCompleted=1\nscoreLine=Birdie\n$")
+
+session_cli_test(relaunch
+  "guess CRANE\\nguess QQQQQ\\nkeys TOW\\nrestart\\nboard\\nstate validGuessError\\n"
+  "^CRANE XXXXY\nQQQQQ CCCCC\n.*activeRow=1 showKeypad=true\nvalidGuessError=100000\n$")
+
+session_cli_test(errors
+  "bogus\\ntouch x\\nstate nope\\ndate pick 99\\noption smartMode maybe\\nstate gameType\\n"
+  "^error: unknown command 'bogus'\nerror: usage: touch COLUMN\nerror: unknown state name 'nope'\nerror: no date line 99\nerror: usage: option NAME Y[|]N\ngameType=C\n$")
+
+session_cli_test(midnight
+  "clock 2024-01-10T23:50\\nguess CRANE\\nphase inactive\\nphase background\\nclock 2024-01-11T00:10\\nphase active\\nstate activeDate\\nstate disableFirst\\nstate latestDateIndex\\n"
+  "^activeDate=-1\ndisableFirst=false\nlatestDateIndex=650\n$")
+
+session_cli_test(equation
+  "type M\\nkeys X\\nkeys 9X8\\nkeys 72\\nsubmit\\nboard\\n"
+  "^error: key 'X' is dead here\n9X8=72 XGXWYG\n[.][.][.]=[.][.] WWWWWW\n")
+
+session_cli_test(smart_mode
+  "option smartMode Y\\nguess CRANE\\nguess GHOST\\nboard\\nstate smartModeError\\nstate activeRow\\n"
+  "CRANE XXXXY\nGHOST RRRRW\n.*smartModeError=100000\nactiveRow=1\n$")
+
+session_cli_test(hints
+  "option wantHints Y\\nguess CRANE\\nstate hintsCountLine\\nguess TOWEL\\nhint\\nstate scoreLine\\nstate singleHint\\n"
+  "hintsCountLine=4 available HINTS.\nscoreLine=Birdie\nsingleHint=010000\n$")
