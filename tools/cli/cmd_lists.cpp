@@ -2,7 +2,9 @@
 // loader, keypads come from the game's catalogue and equations are judged by the game's validator, so
 // a list that passes here is a list the game will accept.
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
+#include <filesystem>
 #include <iostream>
 #include <map>
 #include <set>
@@ -17,8 +19,9 @@
 namespace tessarine::cli {
 namespace {
 
-constexpr int kMinimumGap = 30;                      // no answer comes back within a month
-constexpr std::size_t kSmallPool = 2 * kMinimumGap;  // below this the month rule cannot hold
+constexpr int kMinimumGap = 30;                              // no answer comes back within a month
+constexpr std::size_t kSmallPool = 2 * kMinimumGap;          // below this the month rule cannot hold
+constexpr std::uintmax_t kMaximumBytes = 25u * 1024 * 1024;  // the lists travel inside the app
 
 struct Problems {
   std::vector<std::string> found;
@@ -170,6 +173,7 @@ class Checker {
   void validityFile(const GameTypeInfo& info);
   void translationFile(std::string_view gameType, const std::string& name, int tiles);
   void operatorsAcrossAllTypes();
+  void folderSize(const std::filesystem::path& folder);
   const Problems& problems() const { return problems_; }
 
  private:
@@ -327,6 +331,16 @@ void Checker::operatorsAcrossAllTypes() {
   }
 }
 
+void Checker::folderSize(const std::filesystem::path& folder) {
+  std::uintmax_t bytes = 0;
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+    if (entry.is_regular_file()) bytes += entry.file_size();
+  }
+  std::printf("%-20s %.1f MB\n", "all files", static_cast<double>(bytes) / (1024.0 * 1024.0));
+  if (bytes > kMaximumBytes) problems_.add(folder.string(), "holds more than 25 MB");
+}
+
 int check(const Args& args) {
   if (args.positional().size() != 1 || args.positional()[0] != "check") {
     throw UsageError{"lists takes the word check"};
@@ -345,6 +359,7 @@ int check(const Args& args) {
   checker.translationFile("W", "4LetterTranslation", 4);
   checker.translationFile("X", "5LetterTranslation", 5);
   checker.operatorsAcrossAllTypes();
+  checker.folderSize(args.option("resources").value_or(TESSARINE_RESOURCES_DIR));
   const auto& found = checker.problems().found;
   if (found.empty()) {
     std::cout << "lists check: every rule holds\n";
