@@ -38,6 +38,7 @@ void Session::changePhase(ScenePhase phase) {
     case ScenePhase::active: {
       view_.thankYouFlag = false;
       view_.thankYou = " ";
+      if (view_.gameType == "Ó") break;  // not launched yet: there is no day to keep
       const int daysNow = daysFromApril1st(clock_);
       // Midnight passed while away: stay on the day that was today when the player left.
       if (view_.latestDateIndex != daysNow - 1 && view_.latestDateIndex >= 0) {
