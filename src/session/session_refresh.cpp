@@ -50,11 +50,13 @@ void Session::reloadDay(bool recomputeStreaks, bool recomputeLatest) {
   ContentView& v = view_;
   const int daysNow = daysFromApril1st(clock_);
   resetBoard(v);
-  const int equalsPosition = v.prepopulate && isEquationType(v.gameType) ? equalsIndex(v, lists_) : 0;
   v.currentPosition = 0;
   v.numCellEntries = 0;
   const std::vector<DayRecord>& records = records_.records(stores_.coreDM, log_);
   v.latestDateIndex = daysNow - 1;
+  // Taken from today's answer once today is known, so the first refresh after launch (and after
+  // midnight) compares with the right equation.
+  const int equalsPosition = v.prepopulate && isEquationType(v.gameType) ? equalsIndex(v, lists_) : 0;
   const std::string key = paddedDayIndex(v.latestDateIndex + v.activeDate) + v.gameType;
 
   ReplayScan scan;

@@ -175,6 +175,16 @@ TEST_F(SessionGameTest, PrepopulateCopiesTheLastFinishedFirstRow) {
   EXPECT_EQ(row(0), ".....");
 }
 
+TEST_F(SessionGameTest, EquationPrepopulateNeedsTheEqualsSignInTheSamePlace) {
+  seedSettings(0, "MNYYYYNNY");
+  seedRecords({dayRecord(kToday - 3, "M", 2, "9X4=366X7=42"), dayRecord(kToday - 2, "M", 0, "2X8=16"),
+               dayRecord(kToday - 1, "M", 1, "10/5=2")});
+  start();
+  EXPECT_EQ(row(0), "9X4=36") << "the latest finished game with = in column 3";
+  EXPECT_EQ(view().numCellEntries, 5);
+  EXPECT_FALSE(view().disableSubmit);
+}
+
 TEST_F(SessionGameTest, HintsNarrowDownToASingleCandidate) {
   start();
   setOption(&ContentView::wantHints, true);
