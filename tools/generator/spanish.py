@@ -34,17 +34,40 @@ def _letters(word):
     return word and all(ch in LETTERS for ch in word)
 
 
-def valid_words(length):
-    words = set()
+CLITICS = ("ME", "TE", "SE", "LE", "LO", "LA", "NOS", "LES", "LOS", "LAS")
+# Short verbs that join a pronoun: infinitives take any (IRSE, VERLO), the familiar imperative any but SE
+# (DAME, PONTE), the formal one any but TE (DEME, DENSE).
+VERB_STEMS = {stem: CLITICS for stem in ("IR", "DAR", "VER", "SER", "OIR")}
+VERB_STEMS.update({stem: tuple(c for c in CLITICS if c != "SE") for stem in ("DA", "HAZ", "PON", "TEN", "VEN", "SAL", "VE")})
+VERB_STEMS.update({stem: tuple(c for c in CLITICS if c != "TE") for stem in ("DE", "DEN")})
+VERB_STEMS["DI"] = tuple(c for c in CLITICS if c not in ("SE", "TE"))
+
+
+def _all_words():
     with open(WSPANISH, encoding="utf-8") as f:
         sources = [line for line in f]
     with open(ARRAY, encoding="utf-8") as f:
         sources += json.load(f)
-    for raw in sources:
-        word = fold(raw)
-        if len(word) == length and _letters(word):
-            words.add(word)
-    return words
+    return {w for w in map(fold, sources) if _letters(w)}
+
+
+def _everyday_forms(known, length):
+    """Everyday words that the dictionaries leave out: a short verb with its pronoun (DAME, VERLO), and
+    plurals among the 10,000 most used words whose singular is known (KILOS)."""
+    found = {stem + c for stem, clitics in VERB_STEMS.items() for c in clitics if len(stem + c) == length}
+    with open(COMMON, encoding="utf-8") as f:
+        for line in f:
+            word = fold(line)
+            if len(word) == length and _letters(word) and word[-1] == "S" and word[-2] in "AEIOU":
+                if word[:-1] in known:
+                    found.add(word)
+    return found - known
+
+
+def valid_words(length):
+    known = _all_words()
+    words = {w for w in known if len(w) == length}
+    return words | _everyday_forms(known, length)
 
 
 def answers_and_translations(length):
