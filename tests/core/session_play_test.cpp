@@ -185,6 +185,20 @@ TEST_F(SessionGameTest, EquationPrepopulateNeedsTheEqualsSignInTheSamePlace) {
   EXPECT_FALSE(view().disableSubmit);
 }
 
+TEST_F(SessionGameTest, SpanishTilesCountAsOneCharacterInTheRecord) {
+  seedSettings(0, "XNNNYNNNY");
+  start();
+  play("PEÑAS");
+  play("SALTO");
+  restart();
+  EXPECT_EQ(row(0) + row(1), "PEÑASSALTO");
+  EXPECT_EQ(colors(0), "XXGXG");
+  EXPECT_EQ(storedRecords()[0].substr(56 + 1), "000000") << "62 characters, 63 bytes";
+  play("NIÑOS");
+  EXPECT_EQ(definitionLine(view(), lists_), "children");
+  EXPECT_EQ(scoreLine(view()), "Pajarito");
+}
+
 TEST_F(SessionGameTest, HintsNarrowDownToASingleCandidate) {
   start();
   setOption(&ContentView::wantHints, true);
