@@ -25,7 +25,9 @@ Rectangle {
 
     Column {
         id: page
-        anchors.fill: parent
+        anchors.top: parent.top
+        anchors.left: parent.left
+        anchors.right: parent.right
         anchors.topMargin: 8
         spacing: 10
 
@@ -109,12 +111,21 @@ Rectangle {
             }
         }
 
+    }
+
+    // The keypad sits low, under the thumbs; the hint texts go under it.
+    Column {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 24
+        width: parent.width - 32
+        spacing: 8
+
         Keypad {
             objectName: "keypad"
             anchors.horizontalCenter: parent.horizontalCenter
             visible: game.showKeypad
         }
-
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
             text: game.hintsLine
@@ -123,21 +134,17 @@ Rectangle {
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }
-    }
-
-    Text {
-        anchors.horizontalCenter: parent.horizontalCenter
-        anchors.bottom: parent.bottom
-        anchors.bottomMargin: 12
-        width: parent.width - 32
-        text: game.hintDefinitionLine
-        textFormat: Text.PlainText
-        wrapMode: Text.Wrap
-        font.pixelSize: 14
-        horizontalAlignment: Text.AlignHCenter
-        visible: text.length > 0
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
+        Text {
+            width: parent.width
+            text: game.hintDefinitionLine
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            font.pixelSize: 14
+            horizontalAlignment: Text.AlignHCenter
+            visible: text.length > 0
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
     }
 
     DateWheel { id: dateWheel }
