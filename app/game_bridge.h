@@ -58,6 +58,7 @@ class GameBridge : public QObject {
   Q_PROPERTY(bool playFutureGames READ playFutureGames NOTIFY changed)
   Q_PROPERTY(QStringList allDatesInfo READ allDatesInfo NOTIFY changed)
   Q_PROPERTY(int selectedDateIndex READ selectedDateIndex NOTIFY changed)
+  Q_PROPERTY(bool selectingDate READ selectingDate NOTIFY changed)
   Q_PROPERTY(QString dateListTitle READ dateListTitle NOTIFY changed)
   // Hints, score and texts below the board.
   Q_PROPERTY(QString hintsLine READ hintsLine NOTIFY changed)
@@ -126,6 +127,7 @@ class GameBridge : public QObject {
   bool playFutureGames() const { return view().playFutureGames; }
   QStringList allDatesInfo() const;
   int selectedDateIndex() const { return view().selectedDateIndex; }
+  bool selectingDate() const { return view().selectingDate; }
   QString dateListTitle() const;
 
   QString hintsLine() const;

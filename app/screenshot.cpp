@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QGuiApplication>
+#include <QHash>
 #include <QImage>
 #include <QQuickWindow>
 #include <QTimer>
@@ -32,28 +33,28 @@ void replay(GameBridge& bridge, const QString& script) {
 }  // namespace
 
 bool applyScriptStep(GameBridge& bridge, const QString& step) {
+  using Action = void (*)(GameBridge&);
+  static const QHash<QString, Action> buttons = {
+      {QStringLiteral("enter"), [](GameBridge& b) { b.submitGuess(); }},
+      {QStringLiteral("backspace"), [](GameBridge& b) { b.clearCell(); }},
+      {QStringLiteral("clearrow"), [](GameBridge& b) { b.clearRow(); }},
+      {QStringLiteral("green"), [](GameBridge& b) { b.moveCorrectLetters(); }},
+      {QStringLiteral("hint"), [](GameBridge& b) { b.pressHints(); }},
+      {QStringLiteral("confirm"), [](GameBridge& b) { b.confirmHint(); }},
+      {QStringLiteral("today"), [](GameBridge& b) { b.goToToday(); }},
+      {QStringLiteral("latest"), [](GameBridge& b) { b.goToLatestOpen(); }},
+      {QStringLiteral("dates"), [](GameBridge& b) { b.openDateList(); }},
+      {QStringLiteral("inactive"), [](GameBridge& b) { b.changePhase(tessarine::ScenePhase::inactive); }},
+      {QStringLiteral("active"), [](GameBridge& b) { b.changePhase(tessarine::ScenePhase::active); }},
+  };
   const QString lower = step.toLower();
-  if (lower == "enter")
-    bridge.submitGuess();
-  else if (lower == "backspace")
-    bridge.clearCell();
-  else if (lower == "clearrow")
-    bridge.clearRow();
-  else if (lower == "green")
-    bridge.moveCorrectLetters();
-  else if (lower == "hint")
-    bridge.pressHints();
-  else if (lower == "confirm")
-    bridge.confirmHint();
-  else if (lower == "today")
-    bridge.goToToday();
-  else if (lower == "latest")
-    bridge.goToLatestOpen();
-  else if (lower.startsWith("type:"))
+  if (const auto button = buttons.constFind(lower); button != buttons.constEnd()) {
+    button.value()(bridge);
+  } else if (lower.startsWith(QStringLiteral("type:"))) {
     bridge.chooseGameType(step.mid(5));
-  else if (lower.startsWith("pick:"))
+  } else if (lower.startsWith(QStringLiteral("pick:"))) {
     bridge.pickDate(step.mid(5).toInt());
-  else {
+  } else {
     for (const QChar symbol : step) {
       if (!bridge.typeText(QString(symbol))) return false;
     }

@@ -20,7 +20,7 @@ Column {
         }
         Text {
             anchors.verticalCenter: parent.verticalCenter
-            width: 190
+            width: Math.max(190, implicitWidth)
             text: game.shownDate
             font.pixelSize: 19
             font.bold: true

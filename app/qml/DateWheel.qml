@@ -11,7 +11,10 @@ Popup {
     padding: 16
     closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
 
-    // Opening lands on the line of the day on the board.
+    // The session opens the list; opening lands on the line of the day on the board.
+    readonly property bool wanted: game.selectingDate
+    onWantedChanged: if (wanted) open()
+    Component.onCompleted: if (wanted) open()
     onAboutToShow: tumbler.currentIndex = game.selectedDateIndex
 
     contentItem: Column {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import Tessarine
 
 // Every screen and shared piece loads headless without an error.
 TestCase {
@@ -37,5 +38,17 @@ TestCase {
         compare(game.cellLetters.length, 30)
         compare(game.cellLetters.filter(letter => letter !== "").length, 0)
         compare(game.keyLabels.slice(0, 10).join(""), "QWERTYUIOP")
+    }
+
+    // A symbol name that the table does not know would draw nothing at all.
+    function test_every_symbol_of_the_main_screen_has_a_glyph() {
+        const names = ["gearshape", "info.circle", "square.and.arrow.up", "trash.square", "clear",
+                       "arrow.down.app", "calendar", "chevron.right", "sunrise", "figure.wave",
+                       "star.fill", "exclamationmark.questionmark", "questionmark", "exclamationmark.2",
+                       "exclamationmark.triangle.fill", "multiply", "questionmark.circle",
+                       "graduationcap.fill", "parkingsign.circle"]
+        for (const name of names)
+            verify(Icons.glyph(name).length === 1, name)
+        compare(Icons.glyph("graduationcap.blank"), "")
     }
 }
