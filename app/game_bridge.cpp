@@ -54,7 +54,8 @@ void GameBridge::act(const std::function<void(Session&)>& action) {
   if (!ready()) return;
   try {
     action(*session_);
-  } catch (const tessarine::FatalError& error) {
+  } catch (const std::exception& error) {
+    // Anything the core cannot play on from stops here, on the fatal screen, not in a crash.
     fail(QString::fromStdString(error.what()));
     return;
   }
@@ -152,8 +153,12 @@ bool GameBridge::hintsEnabled() const {
 }
 
 bool GameBridge::keyLive(int keyIndex) const {
-  if (session_ == nullptr || keyIndex < 0 || keyIndex >= view().keypadNumber) return false;
-  return session_->keyLive(view().keypadLetters[keyIndex]);
+  if (!ready() || keyIndex < 0 || keyIndex >= view().keypadNumber) return false;
+  try {
+    return session_->keyLive(view().keypadLetters[keyIndex]);
+  } catch (const tessarine::FatalError&) {
+    return false;  // the missing list stops the game at the next action
+  }
 }
 
 void GameBridge::setViewport(const QSizeF& size) {

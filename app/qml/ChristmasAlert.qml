@@ -41,5 +41,5 @@ Dialog {
             Accessible.name: text
         }
     }
-    onRejected: game.dismissChristmasAlert()
+    onClosed: if (game.showChristmasAlert) game.dismissChristmasAlert()
 }

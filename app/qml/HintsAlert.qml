@@ -31,5 +31,5 @@ Dialog {
         }
     }
     onAccepted: game.confirmHint()
-    onRejected: game.dismissHintsAlert()
+    onClosed: if (game.showHintsAlert) game.dismissHintsAlert()
 }
