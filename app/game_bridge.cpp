@@ -62,6 +62,10 @@ void GameBridge::act(const std::function<void(Session&)>& action) {
   emit changed();
 }
 
+void GameBridge::run(void (Session::*action)()) {
+  act([action](Session& s) { (s.*action)(); });
+}
+
 QString GameBridge::gameType() const {
   return text(view().gameType);
 }
@@ -273,7 +277,7 @@ QString GameBridge::glyphFor(const QString& symbol) const {
 }
 
 void GameBridge::launch() {
-  act([](Session& s) { s.launch(); });
+  run(&Session::launch);
 }
 
 void GameBridge::pressKey(int keyIndex) {
@@ -302,44 +306,43 @@ void GameBridge::touchCell(int cellIndex) {
 }
 
 void GameBridge::clearCell() {
-  act([](Session& s) { s.clearCell(); });
+  run(&Session::clearCell);
 }
 void GameBridge::clearRow() {
-  act([](Session& s) { s.clearRow(); });
+  run(&Session::clearRow);
 }
 void GameBridge::moveCorrectLetters() {
-  act([](Session& s) { s.moveCorrectLetters(); });
+  run(&Session::moveCorrectLetters);
 }
 void GameBridge::submitGuess() {
-  act([](Session& s) { s.submitGuess(); });
+  run(&Session::submitGuess);
 }
 void GameBridge::pressHints() {
-  if (!hintsEnabled()) return;
-  act([](Session& s) { s.pressHints(); });
+  if (hintsEnabled()) run(&Session::pressHints);
 }
 void GameBridge::confirmHint() {
-  act([](Session& s) { s.confirmHint(); });
+  run(&Session::confirmHint);
 }
 void GameBridge::openDateList() {
-  act([](Session& s) { s.openDateList(); });
+  run(&Session::openDateList);
 }
 void GameBridge::dismissHintsAlert() {
-  act([](Session& s) { s.dismissHintsAlert(); });
+  run(&Session::dismissHintsAlert);
 }
 void GameBridge::goToToday() {
-  act([](Session& s) { s.goToToday(); });
+  run(&Session::goToToday);
 }
 void GameBridge::goToLatestOpen() {
-  act([](Session& s) { s.goToLatestOpen(); });
+  run(&Session::goToLatestOpen);
 }
 void GameBridge::goForward() {
-  act([](Session& s) { s.goForward(); });
+  run(&Session::goForward);
 }
 void GameBridge::pickDate(int line) {
   act([line](Session& s) { s.pickDate(line); });
 }
 void GameBridge::dismissChristmasAlert() {
-  act([](Session& s) { s.dismissChristmasAlert(); });
+  run(&Session::dismissChristmasAlert);
 }
 
 void GameBridge::chooseGameType(const QString& gameType) {

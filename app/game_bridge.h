@@ -187,6 +187,7 @@ class GameBridge : public QObject {
   bool keyLive(int keyIndex) const;
   // Runs an action on the session unless the bridge is fatal, catches a FatalError, then notifies.
   void act(const std::function<void(tessarine::Session&)>& action);
+  void run(void (tessarine::Session::*action)());
 
   tessarine::Session* session_ = nullptr;
   QString fatalMessage_;
