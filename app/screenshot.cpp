@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QHash>
 #include <QImage>
+#include <QKeyEvent>
 #include <QQuickWindow>
 #include <QTimer>
 #include <cstdio>
@@ -24,9 +25,28 @@ long residentKilobytes() {
   return -1;
 }
 
-void replay(GameBridge& bridge, const QString& script) {
+// "keys:WORD" goes through the window as real key presses, the way a desktop keyboard types;
+// "keys:enter" and "keys:backspace" press those keys.
+void pressKeys(QQuickWindow& window, const QString& keys) {
+  const auto press = [&window](int key, const QString& text) {
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QGuiApplication::sendEvent(&window, &down);
+    QGuiApplication::sendEvent(&window, &up);
+  };
+  if (keys.toLower() == QStringLiteral("enter")) return press(Qt::Key_Return, QStringLiteral("\r"));
+  if (keys.toLower() == QStringLiteral("backspace")) return press(Qt::Key_Backspace, QString());
+  for (const QChar symbol : keys)
+    press(symbol.toUpper().unicode(), QString(symbol));
+}
+
+void replay(QQuickWindow& window, GameBridge& bridge, const QString& script) {
   for (const QString& step : script.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-    if (!applyScriptStep(bridge, step)) std::fprintf(stderr, "Unknown script step: %s\n", qPrintable(step));
+    if (step.startsWith(QStringLiteral("keys:"))) {
+      pressKeys(window, step.mid(5));
+    } else if (!applyScriptStep(bridge, step)) {
+      std::fprintf(stderr, "Unknown script step: %s\n", qPrintable(step));
+    }
   }
 }
 
@@ -79,7 +99,7 @@ void runScriptedSession(QQuickWindow& window, GameBridge& bridge) {
         return;
       }
     }
-    replay(bridge, qEnvironmentVariable("TESSARINE_SCRIPT"));
+    replay(window, bridge, qEnvironmentVariable("TESSARINE_SCRIPT"));
     // Let the bindings settle and a frame render before the grab.
     QTimer::singleShot(200, &window, [&window, shot] {
       const QImage image = window.grabWindow();
