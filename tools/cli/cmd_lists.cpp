@@ -9,6 +9,7 @@
 #include <map>
 #include <set>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "catalogue/catalogue.h"
 #include "catalogue/fatal_error.h"
@@ -121,10 +122,7 @@ Schedule scheduleOf(const std::vector<std::string_view>& entries, int modulus) {
   for (std::size_t i = 0; i < entries.size(); ++i) {
     if (static_cast<int>(i) < modulus) days[entries[i]].push_back(static_cast<int>(i));
   }
-  std::unordered_map<std::string_view, std::size_t> seen;
-  for (auto e : entries)
-    seen.emplace(e, 0);
-  result.distinct = seen.size();
+  result.distinct = std::unordered_set<std::string_view>(entries.begin(), entries.end()).size();
   // Rounds: day d belongs to round d / pool; within one round nothing comes twice.
   std::unordered_map<std::string_view, std::size_t> lastDay;
   for (std::size_t i = 0; i < entries.size() && result.error.empty(); ++i) {
