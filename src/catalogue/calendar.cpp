@@ -7,9 +7,9 @@ namespace tessarine {
 namespace {
 
 // The program's own month names, so the display never depends on the device's language.
-constexpr std::array<std::string_view, 12> kEnglishMonths = {
-    "January", "February", "March",     "April",   "May",      "June",
-    "July",    "August",   "September", "October", "November", "December"};
+constexpr std::array<std::string_view, 12> kEnglishMonths = {"January",   "February", "March",    "April",
+                                                             "May",       "June",     "July",     "August",
+                                                             "September", "October",  "November", "December"};
 constexpr std::array<std::string_view, 12> kSpanishMonths = {
     "enero", "febrero", "marzo",      "abril",   "mayo",      "junio",
     "julio", "agosto",  "septiembre", "octubre", "noviembre", "diciembre"};
@@ -60,12 +60,15 @@ CivilDate civilFromDays(long days) {
   return {year, month, day};
 }
 
-CivilDate addDays(const CivilDate& date, int offset) { return civilFromDays(daysFromCivil(date) + offset); }
+CivilDate addDays(const CivilDate& date, int offset) {
+  return civilFromDays(daysFromCivil(date) + offset);
+}
 
 std::optional<CivilDate> parseEnglishDate(std::string_view text) {
   const auto space = text.find(' ');
   const auto comma = text.find(", ");
-  if (space == std::string_view::npos || comma == std::string_view::npos || comma < space) return std::nullopt;
+  if (space == std::string_view::npos || comma == std::string_view::npos || comma < space)
+    return std::nullopt;
   const std::string_view monthName = text.substr(0, space);
   int month = 0;
   for (std::size_t i = 0; i < kEnglishMonths.size(); ++i) {

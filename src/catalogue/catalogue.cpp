@@ -9,6 +9,7 @@ namespace {
 
 using K = GameKind;
 
+// clang-format off
 constexpr std::array<GameTypeInfo, 29> kCatalogue = {{
     {"A", K::englishWords, "L", 3, 7, 5, "3LetterAnswers", 3654, "3LetterWords"},
     {"B", K::englishWords, "L", 4, 7, 5, "4LetterAnswers", 3654, "4LetterWords"},
@@ -40,19 +41,20 @@ constexpr std::array<GameTypeInfo, 29> kCatalogue = {{
     {"Q", K::equations, "E", 8, 6, 4, "8MathASAnswers", 3654, ""},
     {"R", K::equations, "E", 8, 6, 4, "8MathMDAnswers", 3654, ""},
 }};
+// clang-format on
 
 constexpr std::array<std::string_view, 26> kEnglishKeys = {"Q", "W", "E", "R", "T", "Y", "U", "I", "O",
-                                                            "P", "A", "S", "D", "F", "G", "H", "J", "K",
-                                                            "L", "Z", "X", "C", "V", "B", "N", "M"};
-constexpr std::array<std::string_view, 27> kSpanishKeys = {"Q", "W", "E", "R", "T", "Y", "U", "I", "O", "P",
-                                                            "A", "S", "D", "F", "G", "H", "J", "K", "L", "Ñ",
-                                                            "Z", "X", "C", "V", "B", "N", "M"};
+                                                           "P", "A", "S", "D", "F", "G", "H", "J", "K",
+                                                           "L", "Z", "X", "C", "V", "B", "N", "M"};
+constexpr std::array<std::string_view, 27> kSpanishKeys = {"Q", "W", "E", "R", "T", "Y", "U", "I", "O",
+                                                           "P", "A", "S", "D", "F", "G", "H", "J", "K",
+                                                           "L", "Ñ", "Z", "X", "C", "V", "B", "N", "M"};
 constexpr std::array<std::string_view, 10> kNumberKeys = {"7", "8", "9", "4", "5", "6", "1", "2", "3", "0"};
 constexpr std::array<std::string_view, 14> kEquationKeys = {"7", "8", "9", "+", "4", "5", "6",
-                                                             "-", "1", "2", "3", "X", "0", "/"};
+                                                            "-", "1", "2", "3", "X", "0", "/"};
 
 using ScoreNames = std::array<std::string_view, 8>;
-constexpr ScoreNames kSevenRowsEnglish = {"Hole-in-one", "Double Eagle", "Eagle", "Birdie",
+constexpr ScoreNames kSevenRowsEnglish = {"Hole-in-one", "Double Eagle", "Eagle",        "Birdie",
                                           "Par",         "Bogey",        "Double Bogey", "Picking up"};
 constexpr ScoreNames kSevenRowsSpanish = {"Hoyo-en-uno", "Albatros", "Águila",     "Pajarito",
                                           "Par",         "Bogey",    "Doblebogey", "Recogiendo"};
@@ -62,8 +64,8 @@ constexpr ScoreNames kSixRowsSpanish = {"Hoyo-en-uno", "Águila",     "Pajarito"
                                         "Bogey",       "Doblebogey", "Recogiendo", " "};
 constexpr ScoreNames kFiveRowsEnglish = {"Hole-in-one",  "Birdie",     "Par", "Bogey",
                                          "Double Bogey", "Picking up", " ",   " "};
-constexpr ScoreNames kFiveRowsSpanish = {"Hoyo-en-uno", "Pajarito", "Par", "Bogey",
-                                         "Doblebogey",  "Recogiendo", " ", " "};
+constexpr ScoreNames kFiveRowsSpanish = {"Hoyo-en-uno", "Pajarito",   "Par", "Bogey",
+                                         "Doblebogey",  "Recogiendo", " ",   " "};
 
 template <std::size_t N>
 void setKeys(ContentView& view, const std::array<std::string_view, N>& keys) {
@@ -74,7 +76,9 @@ void setKeys(ContentView& view, const std::array<std::string_view, N>& keys) {
 
 }  // namespace
 
-std::span<const GameTypeInfo> gameCatalogue() { return kCatalogue; }
+std::span<const GameTypeInfo> gameCatalogue() {
+  return kCatalogue;
+}
 
 const GameTypeInfo* findGameType(std::string_view gameType) {
   for (const auto& info : kCatalogue) {
@@ -106,11 +110,19 @@ void applyCatalogue(ContentView& view) {
   }
   switch (info->kind) {
     case GameKind::englishWords:
-    case GameKind::geniusWords: setKeys(view, kEnglishKeys); break;
-    case GameKind::spanishWords: setKeys(view, kSpanishKeys); break;
+    case GameKind::geniusWords:
+      setKeys(view, kEnglishKeys);
+      break;
+    case GameKind::spanishWords:
+      setKeys(view, kSpanishKeys);
+      break;
     case GameKind::primeNumbers:
-    case GameKind::allNumbers: setKeys(view, kNumberKeys); break;
-    case GameKind::equations: setKeys(view, kEquationKeys); break;
+    case GameKind::allNumbers:
+      setKeys(view, kNumberKeys);
+      break;
+    case GameKind::equations:
+      setKeys(view, kEquationKeys);
+      break;
   }
   view.typeOfGame = std::string(info->typeOfGame);
   view.gameLetters = info->tiles;

@@ -13,9 +13,9 @@ enum class GameKind { englishWords, spanishWords, geniusWords, primeNumbers, all
 
 // One row of the game table. Every decision by game type starts here.
 struct GameTypeInfo {
-  std::string_view gameType;      // one character; "Ñ" is two bytes of UTF-8
+  std::string_view gameType;  // one character; "Ñ" is two bytes of UTF-8
   GameKind kind;
-  std::string_view typeOfGame;    // "L", "N" or "E"
+  std::string_view typeOfGame;  // "L", "N" or "E"
   int tiles;
   int rows;
   int par;

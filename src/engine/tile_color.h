@@ -10,16 +10,26 @@ enum class TileColor { white, gray, green, blue, yellow, orange, red, cyan, purp
 
 constexpr std::string_view tileColorName(TileColor color) {
   switch (color) {
-    case TileColor::white: return "white";
-    case TileColor::gray: return "gray";
-    case TileColor::green: return "green";
-    case TileColor::blue: return "blue";
-    case TileColor::yellow: return "yellow";
-    case TileColor::orange: return "orange";
-    case TileColor::red: return "red";
-    case TileColor::cyan: return "cyan";
-    case TileColor::purple: return "purple";
-    case TileColor::black: return "black";
+    case TileColor::white:
+      return "white";
+    case TileColor::gray:
+      return "gray";
+    case TileColor::green:
+      return "green";
+    case TileColor::blue:
+      return "blue";
+    case TileColor::yellow:
+      return "yellow";
+    case TileColor::orange:
+      return "orange";
+    case TileColor::red:
+      return "red";
+    case TileColor::cyan:
+      return "cyan";
+    case TileColor::purple:
+      return "purple";
+    case TileColor::black:
+      return "black";
   }
   return "white";
 }

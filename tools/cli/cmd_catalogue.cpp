@@ -6,7 +6,9 @@
 namespace tessarine::cli {
 namespace {
 
-std::string_view orDash(std::string_view text) { return text.empty() ? "-" : text; }
+std::string_view orDash(std::string_view text) {
+  return text.empty() ? "-" : text;
+}
 
 int catalogue(const Args& args) {
   if (!args.positional().empty()) throw UsageError{"catalogue takes no argument"};

@@ -45,7 +45,7 @@ struct Registrar {
 };
 
 // Shared pieces of the commands.
-std::unique_ptr<Clock> clockFor(const Args& args);  // --today YYYY-MM-DD, else the system clock
+std::unique_ptr<Clock> clockFor(const Args& args);            // --today YYYY-MM-DD, else the system clock
 std::unique_ptr<ListSource> listSourceFor(const Args& args);  // --resources DIR
 int parseInt(std::string_view text, std::string_view what);
 

@@ -13,11 +13,14 @@ void printUsage(std::ostream& out) {
   out << "usage: tessarine-cli COMMAND [ARGS]\n";
   auto sorted = commands();
   std::sort(sorted.begin(), sorted.end(), [](const auto& a, const auto& b) { return a.name < b.name; });
-  for (const auto& command : sorted) out << "  " << command.usage << "\n";
+  for (const auto& command : sorted)
+    out << "  " << command.usage << "\n";
 }
 
 // Options that take no value; every other --name takes the next word.
-bool isSwitch(std::string_view name) { return name == "spanish" || name == "help"; }
+bool isSwitch(std::string_view name) {
+  return name == "spanish" || name == "help";
+}
 
 }  // namespace
 
