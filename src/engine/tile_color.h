@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string_view>
 
 namespace tessarine {
@@ -8,30 +9,20 @@ namespace tessarine {
 // always derived again from the stored letters.
 enum class TileColor { white, gray, green, blue, yellow, orange, red, cyan, purple, black };
 
+namespace detail {
+// Both tables follow the order of TileColor.
+constexpr std::array<std::string_view, 10> kTileColorNames = {"white",  "gray", "green", "blue",   "yellow",
+                                                              "orange", "red",  "cyan",  "purple", "black"};
+// One letter a colour for board dumps; gray is X and black K, so every letter stays distinct.
+constexpr std::string_view kTileColorLetters = "WXGBYORCPK";
+}  // namespace detail
+
 constexpr std::string_view tileColorName(TileColor color) {
-  switch (color) {
-    case TileColor::white:
-      return "white";
-    case TileColor::gray:
-      return "gray";
-    case TileColor::green:
-      return "green";
-    case TileColor::blue:
-      return "blue";
-    case TileColor::yellow:
-      return "yellow";
-    case TileColor::orange:
-      return "orange";
-    case TileColor::red:
-      return "red";
-    case TileColor::cyan:
-      return "cyan";
-    case TileColor::purple:
-      return "purple";
-    case TileColor::black:
-      return "black";
-  }
-  return "white";
+  return detail::kTileColorNames[static_cast<std::size_t>(color)];
+}
+
+constexpr char tileColorLetter(TileColor color) {
+  return detail::kTileColorLetters[static_cast<std::size_t>(color)];
 }
 
 }  // namespace tessarine

@@ -8,32 +8,6 @@
 namespace tessarine::cli {
 namespace {
 
-char colorLetter(TileColor color) {
-  switch (color) {
-    case TileColor::white:
-      return 'W';
-    case TileColor::gray:
-      return 'X';
-    case TileColor::green:
-      return 'G';
-    case TileColor::blue:
-      return 'B';
-    case TileColor::yellow:
-      return 'Y';
-    case TileColor::orange:
-      return 'O';
-    case TileColor::red:
-      return 'R';
-    case TileColor::cyan:
-      return 'C';
-    case TileColor::purple:
-      return 'P';
-    case TileColor::black:
-      return 'K';
-  }
-  return '?';
-}
-
 std::string flag(bool value) {
   return value ? "true" : "false";
 }
@@ -129,7 +103,7 @@ std::string sessionBoard(const ContentView& view) {
       if (cell >= kMaximumCells) break;
       const std::string& letter = view.cellLetter[cell];
       letters += letter == kEmptyCell || letter == " " ? "." : letter;
-      colors += colorLetter(view.cellBackground[cell]);
+      colors += tileColorLetter(view.cellBackground[cell]);
     }
     text += letters + " " + colors + "\n";
   }
