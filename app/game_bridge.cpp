@@ -7,7 +7,6 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/fatal_error.h"
 #include "session/session_texts.h"
-#include "storage/bonus_record.h"
 
 using tessarine::ContentView;
 using tessarine::Session;
@@ -149,7 +148,7 @@ QVariantList GameBridge::keyRows() const {
 }
 
 bool GameBridge::hasHintsButton() const {
-  return tessarine::hasHints(view());
+  return tessarine::hasHints(view().gameType);
 }
 
 bool GameBridge::hintsEnabled() const {
@@ -348,9 +347,9 @@ void GameBridge::dismissChristmasAlert() {
 void GameBridge::chooseGameType(const QString& gameType) {
   const std::string type = gameType.toStdString();
   act([&](Session& s) {
-    s.mutableView().gameType = type;
-    s.mutableView().updateSettings = true;
-    s.applyOptions();
+    tessarine::Options options = s.options();
+    options.gameType = type;
+    s.applyOptions(options);
   });
 }
 

@@ -12,6 +12,7 @@
 #include "engine/scoring.h"
 #include "engine/smart_mode.h"
 #include "session/content_view.h"
+#include "session/game_setup.h"
 
 namespace tessarine {
 namespace {
@@ -60,19 +61,21 @@ void BM_ComputeHintsFirstRow(benchmark::State& state, std::string_view type) {
   ContentView view;
   view.gameType = std::string(type);
   applyCatalogue(view);
+  view.answer = Answer(lists.answer(type, 0));
   const std::string guess = listGuess(lists, info, 100);
   enterRow(view, 0, guess);
-  scoreGuess(view, lists, guess);
-  updateKnowledge(view);
-  computeHints(view, lists);  // the list's candidates are built once per process
+  scoreGuess(view, guess);
+  updateKnowledge(view, view, view);
+  computeHints(view, view, view, lists, view.gameType,
+               0);  // the list's candidates are built once per process
   for (auto _ : state) {
     view.allHints.clear();  // start over from the whole list each time
-    computeHints(view, lists);
+    computeHints(view, view, view, lists, view.gameType, 0);
     benchmark::DoNotOptimize(view.allHints.data());
   }
   state.counters["survivors"] = view.numberOfHints;
   state.counters["list"] = static_cast<double>(lists.file(std::string(info.validityFile)).lines.size());
-  state.SetLabel(guess + " vs " + mysteryAnswer(view, lists));
+  state.SetLabel(guess + " vs " + view.answer.text);
 }
 
 BENCHMARK_CAPTURE(BM_ComputeHintsFirstRow, A_3letters, "A")->Unit(benchmark::kMicrosecond);
@@ -96,16 +99,17 @@ void BM_ReplayOneRow(benchmark::State& state) {
   ContentView view;
   view.gameType = "C";
   applyCatalogue(view);
+  view.answer = Answer(lists.answer("C", 0));
   for (int row = 0; row < 6; ++row) {
     const std::string guess = listGuess(lists, info, 100 + 977 * static_cast<std::size_t>(row));
     enterRow(view, row, guess);
-    if (row < 5) scoreGuess(view, lists, guess);
+    if (row < 5) scoreGuess(view, guess);
   }
   const std::string last = rowWord(view, 5);
   for (auto _ : state) {
     benchmark::DoNotOptimize(passesSmartMode(view));
-    scoreGuess(view, lists, last);
-    updateKnowledge(view);
+    scoreGuess(view, last);
+    updateKnowledge(view, view, view);
     benchmark::ClobberMemory();
   }
 }

@@ -2,44 +2,45 @@
 
 #include <algorithm>
 
-#include "session/content_view.h"
-
 namespace tessarine {
 namespace {
 
 using K = GameKind;
+using O = OperatorSet;
 
 // clang-format off
 constexpr std::array<GameTypeInfo, 29> kCatalogue = {{
-    {"A", K::englishWords, "L", 3, 7, 5, "3LetterAnswers", 3654, "3LetterWords"},
-    {"B", K::englishWords, "L", 4, 7, 5, "4LetterAnswers", 3654, "4LetterWords"},
-    {"C", K::englishWords, "L", 5, 6, 4, "5LetterAnswers", 3654, "5LetterWords"},
-    {"D", K::englishWords, "L", 6, 6, 4, "6LetterAnswers", 3654, "6LetterWords"},
-    {"E", K::englishWords, "L", 7, 5, 3, "7LetterAnswers", 3654, "7LetterWords"},
-    {"F", K::englishWords, "L", 8, 5, 3, "8LetterAnswers", 3654, "8LetterWords"},
-    {"V", K::spanishWords, "L", 3, 7, 5, "", 0, ""},
-    {"W", K::spanishWords, "L", 4, 7, 5, "4SLetterAnswers", 3654, "4SLetterWords"},
-    {"X", K::spanishWords, "L", 5, 6, 4, "5SLetterAnswers", 3654, "5SLetterWords"},
-    {"Y", K::spanishWords, "L", 6, 6, 4, "", 0, ""},
-    {"Z", K::spanishWords, "L", 7, 5, 3, "", 0, ""},
-    {"Ñ", K::spanishWords, "L", 8, 5, 3, "", 0, ""},
-    {"2", K::geniusWords, "L", 4, 7, 5, "4GLetterAnswers", 5480, "4LetterWords"},
-    {"3", K::geniusWords, "L", 5, 7, 5, "5GLetterAnswers", 7306, "5LetterWords"},
-    {"G", K::primeNumbers, "N", 3, 7, 5, "3PrimeAnswers", 3654, "3DigitPrimes"},
-    {"H", K::allNumbers, "N", 3, 7, 5, "3NumberAnswers", 3654, ""},
-    {"I", K::primeNumbers, "N", 4, 6, 4, "4PrimeAnswers", 3654, "4DigitPrimes"},
-    {"J", K::allNumbers, "N", 4, 6, 4, "4NumberAnswers", 3654, ""},
-    {"K", K::primeNumbers, "N", 5, 6, 4, "5PrimeAnswers", 3654, "5DigitPrimes"},
-    {"L", K::allNumbers, "N", 5, 6, 4, "5NumberAnswers", 3654, ""},
-    {"M", K::equations, "E", 6, 6, 4, "6MathAllAnswers", 3654, ""},
-    {"N", K::equations, "E", 6, 6, 4, "6MathASAnswers", 3654, ""},
-    {"O", K::equations, "E", 6, 6, 4, "6MathMDAnswers", 3654, ""},
-    {"S", K::equations, "E", 7, 6, 4, "7MathAllAnswers", 3654, ""},
-    {"T", K::equations, "E", 7, 6, 4, "7MathASAnswers", 3654, ""},
-    {"U", K::equations, "E", 7, 6, 4, "7MathMDAnswers", 3654, ""},
-    {"P", K::equations, "E", 8, 6, 4, "8MathAllAnswers", 3654, ""},
-    {"Q", K::equations, "E", 8, 6, 4, "8MathASAnswers", 3654, ""},
-    {"R", K::equations, "E", 8, 6, 4, "8MathMDAnswers", 3654, ""},
+    // type, kind, family, tiles, rows, par, answer file, modulus, validity file, operators, hints,
+    // translation file, game share code, statistics share code, challenge type number
+    {"A", K::englishWords, "L", 3, 7, 5, "3LetterAnswers", 3654, "3LetterWords", O::none, true, "", "3L", "3L", 1},
+    {"B", K::englishWords, "L", 4, 7, 5, "4LetterAnswers", 3654, "4LetterWords", O::none, true, "", "4L", "4L", 2},
+    {"C", K::englishWords, "L", 5, 6, 4, "5LetterAnswers", 3654, "5LetterWords", O::none, true, "", "5L", "5L", 3},
+    {"D", K::englishWords, "L", 6, 6, 4, "6LetterAnswers", 3654, "6LetterWords", O::none, true, "", "6L", "6L", 4},
+    {"E", K::englishWords, "L", 7, 5, 3, "7LetterAnswers", 3654, "7LetterWords", O::none, true, "", "7L", "7L", 5},
+    {"F", K::englishWords, "L", 8, 5, 3, "8LetterAnswers", 3654, "8LetterWords", O::none, true, "", "8L", "8L", 6},
+    {"V", K::spanishWords, "L", 3, 7, 5, "", 0, "", O::none, true, "", "XX", "XX", 22},
+    {"W", K::spanishWords, "L", 4, 7, 5, "4SLetterAnswers", 3654, "4SLetterWords", O::none, true, "4LetterTranslation", "4SL", "4LS", 23},
+    {"X", K::spanishWords, "L", 5, 6, 4, "5SLetterAnswers", 3654, "5SLetterWords", O::none, true, "5LetterTranslation", "5SL", "5LS", 24},
+    {"Y", K::spanishWords, "L", 6, 6, 4, "", 0, "", O::none, true, "", "XX", "XX", 0},
+    {"Z", K::spanishWords, "L", 7, 5, 3, "", 0, "", O::none, true, "", "XX", "XX", 0},
+    {"Ñ", K::spanishWords, "L", 8, 5, 3, "", 0, "", O::none, true, "", "XX", "XX", 27},
+    {"2", K::geniusWords, "L", 4, 7, 5, "4GLetterAnswers", 5480, "4LetterWords", O::none, true, "", "4G", "4G", 25},
+    {"3", K::geniusWords, "L", 5, 7, 5, "5GLetterAnswers", 7306, "5LetterWords", O::none, true, "", "5G", "5G", 26},
+    {"G", K::primeNumbers, "N", 3, 7, 5, "3PrimeAnswers", 3654, "3DigitPrimes", O::none, true, "", "3P", "3P", 7},
+    {"H", K::allNumbers, "N", 3, 7, 5, "3NumberAnswers", 3654, "", O::none, false, "", "3N", "3N", 8},
+    {"I", K::primeNumbers, "N", 4, 6, 4, "4PrimeAnswers", 3654, "4DigitPrimes", O::none, true, "", "4P", "4P", 9},
+    {"J", K::allNumbers, "N", 4, 6, 4, "4NumberAnswers", 3654, "", O::none, false, "", "4N", "4N", 10},
+    {"K", K::primeNumbers, "N", 5, 6, 4, "5PrimeAnswers", 3654, "5DigitPrimes", O::none, true, "", "5P", "5P", 11},
+    {"L", K::allNumbers, "N", 5, 6, 4, "5NumberAnswers", 3654, "", O::none, false, "", "5N", "5N", 12},
+    {"M", K::equations, "E", 6, 6, 4, "6MathAllAnswers", 3654, "", O::all, false, "", "6E", "6E", 13},
+    {"N", K::equations, "E", 6, 6, 4, "6MathASAnswers", 3654, "", O::addSubtract, false, "", "6AS", "6AS", 14},
+    {"O", K::equations, "E", 6, 6, 4, "6MathMDAnswers", 3654, "", O::multiplyDivide, false, "", "6MD", "6MD", 15},
+    {"S", K::equations, "E", 7, 6, 4, "7MathAllAnswers", 3654, "", O::all, false, "", "7E", "7E", 19},
+    {"T", K::equations, "E", 7, 6, 4, "7MathASAnswers", 3654, "", O::addSubtract, false, "", "7AS", "7AS", 20},
+    {"U", K::equations, "E", 7, 6, 4, "7MathMDAnswers", 3654, "", O::multiplyDivide, false, "", "7MD", "7MD", 21},
+    {"P", K::equations, "E", 8, 6, 4, "8MathAllAnswers", 3654, "", O::all, false, "", "8E", "8E", 16},
+    {"Q", K::equations, "E", 8, 6, 4, "8MathASAnswers", 3654, "", O::addSubtract, false, "", "8AS", "8AS", 17},
+    {"R", K::equations, "E", 8, 6, 4, "8MathMDAnswers", 3654, "", O::multiplyDivide, false, "", "8MD", "8MD", 18},
 }};
 // clang-format on
 
@@ -68,10 +69,12 @@ constexpr ScoreNames kFiveRowsSpanish = {"Hoyo-en-uno", "Pajarito",   "Par", "Bo
                                          "Doblebogey",  "Recogiendo", " ",   " "};
 
 template <std::size_t N>
-void setKeys(ContentView& view, const std::array<std::string_view, N>& keys) {
-  view.keypadLetters.fill(" ");
-  std::copy(keys.begin(), keys.end(), view.keypadLetters.begin());
-  view.keypadNumber = static_cast<int>(N);
+KeypadLayout layoutOf(const std::array<std::string_view, N>& keys) {
+  KeypadLayout layout{};
+  layout.letters.fill(" ");
+  std::copy(keys.begin(), keys.end(), layout.letters.begin());
+  layout.number = static_cast<int>(N);
+  return layout;
 }
 
 }  // namespace
@@ -92,45 +95,32 @@ bool isEquationType(std::string_view gameType) {
   return info != nullptr && info->kind == GameKind::equations;
 }
 
-bool hasHints(const ContentView& view) {
-  return view.typeOfGame == "L" || view.gameType == "G" || view.gameType == "I" || view.gameType == "K";
+bool hasHints(std::string_view gameType) {
+  const auto* info = findGameType(gameType);
+  return info != nullptr && info->hints;
 }
 
-void applyCatalogue(ContentView& view) {
-  const GameTypeInfo* info = findGameType(view.gameType);
-  view.disablePlusKey = view.disableMinusKey = view.disableMultiplyKey = view.disableDivideKey = false;
+KeypadLayout keypadLayout(const GameTypeInfo* info) {
   if (info == nullptr) {
-    view.keypadLetters.fill(" ");
-    std::fill_n(view.keypadLetters.begin(), 26, std::string("X"));
-    view.keypadNumber = 26;
-    view.gameLetters = 5;
-    view.gameRows = 6;
-    view.pickingUp = "7";
-    return;
+    KeypadLayout layout{};
+    layout.letters.fill(" ");
+    std::fill_n(layout.letters.begin(), 26, "X");
+    layout.number = 26;
+    return layout;
   }
   switch (info->kind) {
     case GameKind::englishWords:
     case GameKind::geniusWords:
-      setKeys(view, kEnglishKeys);
-      break;
+      return layoutOf(kEnglishKeys);
     case GameKind::spanishWords:
-      setKeys(view, kSpanishKeys);
-      break;
+      return layoutOf(kSpanishKeys);
     case GameKind::primeNumbers:
     case GameKind::allNumbers:
-      setKeys(view, kNumberKeys);
-      break;
+      return layoutOf(kNumberKeys);
     case GameKind::equations:
-      setKeys(view, kEquationKeys);
       break;
   }
-  view.typeOfGame = std::string(info->typeOfGame);
-  view.gameLetters = info->tiles;
-  view.gameRows = info->rows;
-  view.pickingUp = std::to_string(info->rows + 1);
-  const std::string_view t = view.gameType;
-  if (t == "N" || t == "Q" || t == "T") view.disableMultiplyKey = view.disableDivideKey = true;
-  if (t == "O" || t == "R" || t == "U") view.disablePlusKey = view.disableMinusKey = true;
+  return layoutOf(kEquationKeys);
 }
 
 std::string_view scoreName(int row, std::string_view gameType, bool englishTranslation) {

@@ -7,11 +7,12 @@
 
 namespace tessarine {
 
-struct ContentView;
-
 enum class GameKind { englishWords, spanishWords, geniusWords, primeNumbers, allNumbers, equations };
 
-// One row of the game table. Every decision by game type starts here.
+// Which operator keys an equation type keeps; the others are switched off.
+enum class OperatorSet { none, all, addSubtract, multiplyDivide };
+
+// One row of the game table. Every decision by game type is a lookup here, never a chain of tests.
 struct GameTypeInfo {
   std::string_view gameType;  // one character; "Ñ" is two bytes of UTF-8
   GameKind kind;
@@ -22,6 +23,25 @@ struct GameTypeInfo {
   std::string_view answerFile;    // empty when the type has no list
   int modulus;                    // 0 when the type has no list
   std::string_view validityFile;  // empty when no list is consulted
+  OperatorSet operators;
+  bool hints;                        // word games and the prime games
+  std::string_view translationFile;  // Spanish answers with their English text; empty for others
+  std::string_view gameShareCode;    // header code of the game text
+  std::string_view statisticsShareCode;
+  int typeNumber;  // as the challenge key carries it; 0 for a type it cannot carry
+
+  bool isEquation() const { return kind == GameKind::equations; }
+  bool isWordGame() const {
+    return kind == GameKind::englishWords || kind == GameKind::spanishWords || kind == GameKind::geniusWords;
+  }
+};
+
+inline constexpr int kKeypadSize = 27;  // the Spanish keypad has Ñ
+
+// What each key shows (unused slots a single blank) and how many keys are live.
+struct KeypadLayout {
+  std::array<std::string_view, kKeypadSize> letters;
+  int number;
 };
 
 // The 29 playable types in the order of the table.
@@ -30,13 +50,16 @@ std::span<const GameTypeInfo> gameCatalogue();
 // The row of a type, or nullptr for a value outside the table ("Ó" among them).
 const GameTypeInfo* findGameType(std::string_view gameType);
 
+// Shorthands for the questions asked most; a value outside the table answers no.
 bool isEquationType(std::string_view gameType);
-// Word games and the prime games are the ones with hints.
-bool hasHints(const ContentView& view);
+bool hasHints(std::string_view gameType);
 
-// Sets the keypad, family, board size, `pickingUp` and the operator flags from `gameType`.
-// A value outside the table gets the fall-back: 5 tiles, 6 rows, 26 keys that all read "X".
-void applyCatalogue(ContentView& view);
+// The keypad of a type; a value outside the table gets 26 keys that all read "X".
+KeypadLayout keypadLayout(const GameTypeInfo* info);
+
+// Board size of a value outside the table.
+inline constexpr int kFallbackTiles = 5;
+inline constexpr int kFallbackRows = 6;
 
 // The golf name of a score, indexed by the 0-based row; a single blank past the list's end.
 std::string_view scoreName(int row, std::string_view gameType, bool englishTranslation);

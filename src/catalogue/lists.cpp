@@ -153,9 +153,10 @@ bool Lists::containsLine(const std::string& listName, std::string_view guess) co
 }
 
 std::string Lists::translation(std::string_view gameType, std::string_view word) const {
-  if (gameType != "W" && gameType != "X") return "Tessarine";
-  const std::string name = gameType == "W" ? "4LetterTranslation" : "5LetterTranslation";
-  const std::size_t length = gameType == "W" ? 4 : 5;
+  const GameTypeInfo* info = findGameType(gameType);
+  if (info == nullptr || info->translationFile.empty()) return "Tessarine";
+  const std::string name(info->translationFile);
+  const auto length = static_cast<std::size_t>(info->tiles);
   const Index& index = prefixIndex(name, length);
   const auto found = index.lastLine.find(word);
   if (found == index.lastLine.end()) return "Tessarine";

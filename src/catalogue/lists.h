@@ -41,6 +41,15 @@ class Lists {
   // The definition that follows a word on its English validity line, empty when there is none.
   std::string definition(const std::string& listName, std::string_view word) const;
 
+  // A form derived from a list (the hint engine's encoded words), built on first use and kept as
+  // long as these lists, so that a second set of lists never sees the first one's forms.
+  template <typename T, typename Build>
+  const T& derived(const std::string& key, Build build) const {
+    auto& slot = derived_[key];
+    if (!slot) slot = std::shared_ptr<const void>(build());
+    return *static_cast<const T*>(slot.get());
+  }
+
  private:
   struct Index {
     std::unordered_set<std::string_view> keys;
@@ -52,6 +61,7 @@ class Lists {
   const ListSource& source_;
   mutable std::map<std::string, std::unique_ptr<ListFile>, std::less<>> files_;
   mutable std::map<std::pair<std::string, std::size_t>, std::unique_ptr<Index>> indexes_;
+  mutable std::map<std::string, std::shared_ptr<const void>, std::less<>> derived_;
 };
 
 std::string_view trimView(std::string_view text);

@@ -1,11 +1,9 @@
 #include "engine/hint_candidates.h"
 
-#include <map>
 #include <memory>
-#include <tuple>
 
 #include "catalogue/lists.h"
-#include "session/content_view.h"
+#include "engine/knowledge.h"
 
 namespace tessarine {
 namespace {
@@ -15,24 +13,6 @@ std::size_t symbolBytes(std::string_view text, std::size_t at) {
   while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
     ++end;
   return end - at;
-}
-
-// A cache entry is trusted only while its list still looks the same: tests and tools may load
-// several folders with equal list names during one process.
-struct CacheEntry {
-  std::size_t lineCount;
-  std::vector<std::string> sample;
-  std::unique_ptr<CandidateList> list;
-};
-
-std::vector<std::string> sampleLines(const ListFile& file) {
-  std::vector<std::string> sample;
-  const std::size_t n = file.lines.size();
-  const std::size_t step = n / 32 + 1;
-  for (std::size_t i = 0; i < n; i += step)
-    sample.push_back(file.lines[i]);
-  if (n > 0) sample.push_back(file.lines[n - 1]);
-  return sample;
 }
 
 std::unique_ptr<CandidateList> buildList(const ListFile& file, int length, bool wholeLine) {
@@ -101,51 +81,49 @@ bool SymbolTable::encode(std::string_view text, int length, EncodedWord& out) co
   return at == text.size();
 }
 
-const CandidateList& candidateList(const ListFile& file, const std::string& listName, int length,
+const CandidateList& candidateList(const Lists& lists, const std::string& listName, int length,
                                    bool wholeLine) {
-  static std::map<std::tuple<std::string, int, bool>, CacheEntry> cache;
-  auto& entry = cache[{listName, length, wholeLine}];
-  if (!entry.list || entry.lineCount != file.lines.size() || entry.sample != sampleLines(file)) {
-    entry = CacheEntry{file.lines.size(), sampleLines(file), buildList(file, length, wholeLine)};
-  }
-  return *entry.list;
+  const std::string key =
+      "candidates:" + listName + ":" + std::to_string(length) + (wholeLine ? ":line" : ":prefix");
+  return lists.derived<CandidateList>(key,
+                                      [&] { return buildList(lists.file(listName), length, wholeLine); });
 }
 
-CandidateTest::CandidateTest(const ContentView& view, const SymbolTable& symbols)
+CandidateTest::CandidateTest(const Knowledge& knowledge, const SymbolTable& symbols)
     : masksExact_(symbols.masksExact()) {
-  if (view.hintLettersUnique.empty()) {
+  if (knowledge.hintLettersUnique.empty()) {
     form_ = HintTestForm::grayOnly;
-  } else if (view.greenLetterPosition.size() == 1) {
+  } else if (knowledge.greenLetterPosition.size() == 1) {
     form_ = HintTestForm::singleGreen;
-  } else if (view.greenLetterPosition.empty()) {
+  } else if (knowledge.greenLetterPosition.empty()) {
     form_ = HintTestForm::noGreen;
   } else {
     form_ = HintTestForm::full;
   }
-  for (const std::string& symbol : view.grayLetters) {
+  for (const std::string& symbol : knowledge.grayLetters) {
     const SymbolCode code = symbols.code(symbol);
     if (code == SymbolTable::kAbsent) continue;  // no word holds it anyway
     gray_.set(code);
     grayMask_ |= std::uint64_t{1} << (code % 64);
   }
   if (form_ == HintTestForm::grayOnly) return;
-  for (int column : view.greenLetterPosition) {
+  for (int column : knowledge.greenLetterPosition) {
     const auto c = static_cast<std::size_t>(column);
-    green_.emplace_back(
-        column, c < view.greenLetters.size() ? symbols.code(view.greenLetters[c]) : SymbolTable::kAbsent);
+    green_.emplace_back(column, c < knowledge.greenLetters.size() ? symbols.code(knowledge.greenLetters[c])
+                                                                  : SymbolTable::kAbsent);
   }
-  for (std::size_t i = 0; i < view.yellowLetters.size() && i < view.yellowCloseGroups.size(); ++i) {
-    for (int column : view.yellowCloseGroups[i])
-      closed_.emplace_back(column, symbols.code(view.yellowLetters[i]));
+  for (std::size_t i = 0; i < knowledge.yellowLetters.size() && i < knowledge.yellowCloseGroups.size(); ++i) {
+    for (int column : knowledge.yellowCloseGroups[i])
+      closed_.emplace_back(column, symbols.code(knowledge.yellowLetters[i]));
   }
-  for (std::size_t i = 0; i < view.hintLettersUnique.size(); ++i) {
+  for (std::size_t i = 0; i < knowledge.hintLettersUnique.size(); ++i) {
     const auto bound = [i](const std::vector<int>& values, int fallback) {
       return i < values.size() ? values[i] : fallback;
     };
-    counts_.push_back({symbols.code(view.hintLettersUnique[i]),
-                       i < view.hintOpenGroups.size() ? view.hintOpenGroups[i] : std::vector<int>{},
-                       bound(view.hintLettersExact, 0), bound(view.hintLettersLower, 0),
-                       bound(view.hintLettersUpper, kMaxWordSymbols)});
+    counts_.push_back({symbols.code(knowledge.hintLettersUnique[i]),
+                       i < knowledge.hintOpenGroups.size() ? knowledge.hintOpenGroups[i] : std::vector<int>{},
+                       bound(knowledge.hintLettersExact, 0), bound(knowledge.hintLettersLower, 0),
+                       bound(knowledge.hintLettersUpper, kMaxWordSymbols)});
     const Count& added = counts_.back();
     if (added.code != SymbolTable::kAbsent && (added.exact >= 1 || added.lower >= 1)) {
       requiredMask_ |= std::uint64_t{1} << (added.code % 64);

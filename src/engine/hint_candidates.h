@@ -12,8 +12,8 @@
 
 namespace tessarine {
 
-struct ContentView;
-struct ListFile;
+struct Knowledge;
+class Lists;
 
 constexpr int kMaxWordSymbols = 8;
 using SymbolCode = std::uint8_t;
@@ -47,8 +47,8 @@ struct CandidateList {
 };
 
 // The list for `listName` reduced to words of `length` symbols: a line's first symbols for a word
-// list, the whole trimmed line for a prime list. Built once per list and kept.
-const CandidateList& candidateList(const ListFile& file, const std::string& listName, int length,
+// list, the whole trimmed line for a prime list. Built once per list and kept with the lists.
+const CandidateList& candidateList(const Lists& lists, const std::string& listName, int length,
                                    bool wholeLine);
 
 // Which steps of the test run; chosen once per filtering from the knowledge sets.
@@ -56,7 +56,7 @@ enum class HintTestForm { grayOnly, singleGreen, noGreen, full };
 
 class CandidateTest {
  public:
-  CandidateTest(const ContentView& view, const SymbolTable& symbols);
+  CandidateTest(const Knowledge& knowledge, const SymbolTable& symbols);
   HintTestForm form() const { return form_; }
   bool passes(const EncodedWord& word, std::uint64_t mask) const;
 

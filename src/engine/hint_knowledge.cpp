@@ -6,51 +6,50 @@
 namespace tessarine {
 namespace {
 
-bool holds(const ContentView& view, int row, int column, const std::string& symbol, TileColor a,
-           TileColor b) {
-  const int cell = cellIndex(view, row, column);
+bool holds(const Board& board, int row, int column, const std::string& symbol, TileColor a, TileColor b) {
+  const int cell = cellIndex(board, row, column);
   if (cell < 0) return false;
   const auto n = static_cast<std::size_t>(cell);
-  return view.cellLetter[n] == symbol && (view.cellBackground[n] == a || view.cellBackground[n] == b);
+  return board.cellLetter[n] == symbol && (board.cellBackground[n] == a || board.cellBackground[n] == b);
 }
 
 // Per known symbol: the columns still open to it, and those a yellow or orange tile closed.
-void collectPositions(ContentView& view) {
-  for (const std::string& symbol : view.hintLettersUnique) {
-    view.hintOpenPosition.clear();
-    view.yellowClosePosition.clear();
-    for (int c = 0; c < view.gameLetters; ++c) {
+void collectPositions(const Board& board, Knowledge& knowledge) {
+  for (const std::string& symbol : knowledge.hintLettersUnique) {
+    knowledge.hintOpenPosition.clear();
+    knowledge.yellowClosePosition.clear();
+    for (int c = 0; c < board.gameLetters; ++c) {
       bool closed = false;
-      for (int r = 0; r <= view.activeRow && !closed; ++r) {
-        closed = holds(view, r, c, symbol, TileColor::yellow, TileColor::orange);
+      for (int r = 0; r <= board.activeRow && !closed; ++r) {
+        closed = holds(board, r, c, symbol, TileColor::yellow, TileColor::orange);
       }
-      (closed ? view.yellowClosePosition : view.hintOpenPosition).push_back(c);
+      (closed ? knowledge.yellowClosePosition : knowledge.hintOpenPosition).push_back(c);
     }
-    view.hintOpenGroups.push_back(view.hintOpenPosition);
-    if (!view.yellowClosePosition.empty()) {
-      view.yellowLetters.push_back(symbol);
-      view.yellowCloseGroups.push_back(view.yellowClosePosition);
+    knowledge.hintOpenGroups.push_back(knowledge.hintOpenPosition);
+    if (!knowledge.yellowClosePosition.empty()) {
+      knowledge.yellowLetters.push_back(symbol);
+      knowledge.yellowCloseGroups.push_back(knowledge.yellowClosePosition);
     }
   }
 }
 
-void countTiles(ContentView& view, int row, const std::string& symbol) {
-  view.numberOfGreen = view.numberOfBlue = view.numberOfYellow = view.numberOfOrange = 0;
-  for (int c = 0; c < view.gameLetters; ++c) {
-    const int cell = cellIndex(view, row, c);
-    if (cell < 0 || view.cellLetter[static_cast<std::size_t>(cell)] != symbol) continue;
-    switch (view.cellBackground[static_cast<std::size_t>(cell)]) {
+void countTiles(const Board& board, Knowledge& knowledge, int row, const std::string& symbol) {
+  knowledge.numberOfGreen = knowledge.numberOfBlue = knowledge.numberOfYellow = knowledge.numberOfOrange = 0;
+  for (int c = 0; c < board.gameLetters; ++c) {
+    const int cell = cellIndex(board, row, c);
+    if (cell < 0 || board.cellLetter[static_cast<std::size_t>(cell)] != symbol) continue;
+    switch (board.cellBackground[static_cast<std::size_t>(cell)]) {
       case TileColor::green:
-        ++view.numberOfGreen;
+        ++knowledge.numberOfGreen;
         break;
       case TileColor::blue:
-        ++view.numberOfBlue;
+        ++knowledge.numberOfBlue;
         break;
       case TileColor::yellow:
-        ++view.numberOfYellow;
+        ++knowledge.numberOfYellow;
         break;
       case TileColor::orange:
-        ++view.numberOfOrange;
+        ++knowledge.numberOfOrange;
         break;
       default:
         break;
@@ -60,11 +59,12 @@ void countTiles(ContentView& view, int row, const std::string& symbol) {
 
 // One row's evidence on a symbol's count; the first rule that matches applies. The rules with
 // orange tiles bound more loosely than they could: the filter is built on exactly these.
-void applyCountRule(ContentView& view) {
-  const int g = view.numberOfGreen, b = view.numberOfBlue, y = view.numberOfYellow, o = view.numberOfOrange;
-  int& exact = view.numberOfExact;
-  int& lower = view.numberOfLower;
-  int& upper = view.numberOfUpper;
+void applyCountRule(Knowledge& knowledge) {
+  const int g = knowledge.numberOfGreen, b = knowledge.numberOfBlue, y = knowledge.numberOfYellow,
+            o = knowledge.numberOfOrange;
+  int& exact = knowledge.numberOfExact;
+  int& lower = knowledge.numberOfLower;
+  int& upper = knowledge.numberOfUpper;
   if (g >= 1 && o == 0) {
     exact = g + y;
   } else if (g >= 1 && o == 1) {
@@ -83,42 +83,43 @@ void applyCountRule(ContentView& view) {
   }
 }
 
-void boundCounts(ContentView& view) {
-  for (const std::string& symbol : view.hintLettersUnique) {
-    view.numberOfExact = 0;
-    view.numberOfUpper = view.gameLetters;
-    view.numberOfLower = 0;
-    for (int r = 0; r <= view.activeRow; ++r) {
-      countTiles(view, r, symbol);
-      applyCountRule(view);
+void boundCounts(const Board& board, Knowledge& knowledge) {
+  for (const std::string& symbol : knowledge.hintLettersUnique) {
+    knowledge.numberOfExact = 0;
+    knowledge.numberOfUpper = board.gameLetters;
+    knowledge.numberOfLower = 0;
+    for (int r = 0; r <= board.activeRow; ++r) {
+      countTiles(board, knowledge, r, symbol);
+      applyCountRule(knowledge);
     }
-    if (view.numberOfLower == view.numberOfUpper) view.numberOfExact = view.numberOfLower;
-    view.hintLettersExact.push_back(view.numberOfExact);
-    view.hintLettersLower.push_back(view.numberOfLower);
-    view.hintLettersUpper.push_back(view.numberOfUpper);
+    if (knowledge.numberOfLower == knowledge.numberOfUpper) knowledge.numberOfExact = knowledge.numberOfLower;
+    knowledge.hintLettersExact.push_back(knowledge.numberOfExact);
+    knowledge.hintLettersLower.push_back(knowledge.numberOfLower);
+    knowledge.hintLettersUpper.push_back(knowledge.numberOfUpper);
   }
 }
 
 }  // namespace
 
-bool updateGreenKnowledge(ContentView& view) {
-  view.hintOpenGroups.clear();
-  view.yellowLetters.clear();
-  view.yellowCloseGroups.clear();
+bool updateGreenKnowledge(const Board& board, Keypad& keypad, Knowledge& knowledge) {
+  knowledge.hintOpenGroups.clear();
+  knowledge.yellowLetters.clear();
+  knowledge.yellowCloseGroups.clear();
   // The blue pass sizes this; a caller that skipped it still gets one entry per column.
-  view.greenLetters.resize(static_cast<std::size_t>(std::max(view.gameLetters, 0)));
+  knowledge.greenLetters.resize(static_cast<std::size_t>(std::max(board.gameLetters, 0)));
   bool found = false;
-  forTiles(view, TileColor::green, [&](int column, const std::string& symbol) {
-    view.greenLetters[static_cast<std::size_t>(column)] = symbol;
-    addUniqueSymbol(view, symbol);
+  forTiles(board, keypad, TileColor::green, [&](int column, const std::string& symbol) {
+    knowledge.greenLetters[static_cast<std::size_t>(column)] = symbol;
+    addUniqueSymbol(knowledge, symbol);
     found = true;
   });
-  view.greenLetterPosition.clear();
-  for (int c = 0; c < view.gameLetters; ++c) {
-    if (!view.greenLetters[static_cast<std::size_t>(c)].empty()) view.greenLetterPosition.push_back(c);
+  knowledge.greenLetterPosition.clear();
+  for (int c = 0; c < board.gameLetters; ++c) {
+    if (!knowledge.greenLetters[static_cast<std::size_t>(c)].empty())
+      knowledge.greenLetterPosition.push_back(c);
   }
-  collectPositions(view);
-  boundCounts(view);
+  collectPositions(board, knowledge);
+  boundCounts(board, knowledge);
   return found;
 }
 

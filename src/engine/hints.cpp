@@ -6,79 +6,72 @@
 #include "catalogue/lists.h"
 #include "engine/hint_candidates.h"
 #include "engine/random_source.h"
-#include "engine/scoring.h"
-#include "session/content_view.h"
 
 namespace tessarine {
 namespace {
 
 // The game's validity list as candidates, or nullptr for a type without one (no hints).
-const CandidateList* gameList(const ContentView& view, const Lists& lists) {
-  const GameTypeInfo* info = findGameType(view.gameType);
+const CandidateList* gameList(std::string_view gameType, int letters, const Lists& lists) {
+  const GameTypeInfo* info = findGameType(gameType);
   if (info == nullptr || info->validityFile.empty()) return nullptr;
-  if (view.gameLetters < 1 || view.gameLetters > kMaxWordSymbols) return nullptr;
-  const std::string listName(info->validityFile);
-  return &candidateList(lists.file(listName), listName, view.gameLetters,
+  if (letters < 1 || letters > kMaxWordSymbols) return nullptr;
+  return &candidateList(lists, std::string(info->validityFile), letters,
                         info->kind == GameKind::primeNumbers);
 }
 
-void filterList(ContentView& view, const Lists& lists) {
-  const CandidateList* found = gameList(view, lists);
-  if (found == nullptr) return;
-  const CandidateList& list = *found;
-  const CandidateTest test(view, list.symbols);
+void filterList(HintState& hints, const CandidateList& list, const Knowledge& knowledge) {
+  const CandidateTest test(knowledge, list.symbols);
   for (std::size_t i = 0; i < list.words.size(); ++i) {
-    if (test.passes(list.codes[i], list.masks[i])) view.allHints.push_back(list.words[i]);
+    if (test.passes(list.codes[i], list.masks[i])) hints.allHints.push_back(list.words[i]);
   }
 }
 
 // Later rows test only the survivors of the last filtering, whatever list they came from.
-void narrow(ContentView& view, const Lists& lists, std::vector<std::string> source) {
-  const CandidateList* found = gameList(view, lists);
-  if (found == nullptr) return;
-  const CandidateList& list = *found;
-  const CandidateTest test(view, list.symbols);
+void narrow(HintState& hints, const CandidateList& list, const Knowledge& knowledge,
+            std::vector<std::string> source, int letters) {
+  const CandidateTest test(knowledge, list.symbols);
   for (std::string& word : source) {
     EncodedWord codes{};
-    if (!list.symbols.encode(word, view.gameLetters, codes)) continue;
+    if (!list.symbols.encode(word, letters, codes)) continue;
     std::uint64_t mask = 0;
     for (SymbolCode code : codes)
       mask |= std::uint64_t{1} << (code % 64);
-    if (test.passes(codes, mask)) view.allHints.push_back(std::move(word));
+    if (test.passes(codes, mask)) hints.allHints.push_back(std::move(word));
   }
 }
 
 }  // namespace
 
-void computeHints(ContentView& view, const Lists& lists) {
-  const int day = view.latestDateIndex + view.activeDate;
-  view.numberOfHints = 0;
-  if (!view.allHints.empty() && view.hintsGameType == view.gameType && view.hintsGameDate == day) {
-    view.allHints.clear();
-    view.hintsGuess = view.activeRow;
-    narrow(view, lists, view.firstHints);
+void computeHints(HintState& hints, const Knowledge& knowledge, const Board& board, const Lists& lists,
+                  std::string_view gameType, int day) {
+  hints.numberOfHints = 0;
+  const CandidateList* list = gameList(gameType, board.gameLetters, lists);
+  if (!hints.allHints.empty() && hints.hintsGameType == gameType && hints.hintsGameDate == day) {
+    hints.allHints.clear();
+    hints.hintsGuess = board.activeRow;
+    if (list != nullptr) narrow(hints, *list, knowledge, hints.firstHints, board.gameLetters);
   } else {
-    view.allHints.clear();
-    view.hintsGameType = view.gameType;
-    view.hintsGameDate = day;
-    filterList(view, lists);
+    hints.allHints.clear();
+    hints.hintsGameType = std::string(gameType);
+    hints.hintsGameDate = day;
+    if (list != nullptr) filterList(hints, *list, knowledge);
   }
-  view.firstHints = view.allHints;
-  view.numberOfHints = view.numberOfAvailableHints = static_cast<int>(view.allHints.size());
+  hints.firstHints = hints.allHints;
+  hints.numberOfHints = hints.numberOfAvailableHints = static_cast<int>(hints.allHints.size());
 }
 
-std::string drawHint(ContentView& view, const Lists& lists, RandomSource& random) {
-  auto& hints = view.allHints;
-  if (hints.empty()) return mysteryAnswer(view, lists);
-  --view.numberOfAvailableHints;
-  if (hints.size() == 1) return hints.front();
+std::string drawHint(HintState& hints, const Answer& answer, RandomSource& random) {
+  auto& list = hints.allHints;
+  if (list.empty()) return answer.text;
+  --hints.numberOfAvailableHints;
+  if (list.size() == 1) return list.front();
   // Fisher-Yates from the front; the last position has nothing left to swap with.
-  for (std::size_t i = 0; i + 1 < hints.size(); ++i) {
-    const auto j = i + static_cast<std::size_t>(boundedRandom(random, hints.size() - i));
-    std::swap(hints[i], hints[j]);
+  for (std::size_t i = 0; i + 1 < list.size(); ++i) {
+    const auto j = i + static_cast<std::size_t>(boundedRandom(random, list.size() - i));
+    std::swap(list[i], list[j]);
   }
-  std::string hint = std::move(hints.front());
-  hints.erase(hints.begin());
+  std::string hint = std::move(list.front());
+  list.erase(list.begin());
   return hint;
 }
 

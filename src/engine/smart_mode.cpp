@@ -2,31 +2,31 @@
 
 #include <string>
 
-#include "engine/scoring.h"
-#include "session/content_view.h"
+#include "engine/board.h"
+#include "engine/row_marks.h"
 
 namespace tessarine {
 namespace {
 
 // Read and mark cells of the board by (row, column); cells outside the fixed board read as empty.
-class Board {
+class Cells {
  public:
-  explicit Board(ContentView& view) : view_(view) {}
-  int columns() const { return view_.gameLetters; }
-  int active() const { return view_.activeRow; }
+  explicit Cells(Board& board) : board_(board) {}
+  int columns() const { return board_.gameLetters; }
+  int active() const { return board_.activeRow; }
 
   const std::string& letter(int row, int column) const {
     static const std::string empty = kEmptyCell;
-    const int cell = cellIndex(view_, row, column);
-    return cell < 0 ? empty : view_.cellLetter[static_cast<std::size_t>(cell)];
+    const int cell = cellIndex(board_, row, column);
+    return cell < 0 ? empty : board_.cellLetter[static_cast<std::size_t>(cell)];
   }
   TileColor color(int row, int column) const {
-    const int cell = cellIndex(view_, row, column);
-    return cell < 0 ? TileColor::white : view_.cellBackground[static_cast<std::size_t>(cell)];
+    const int cell = cellIndex(board_, row, column);
+    return cell < 0 ? TileColor::white : board_.cellBackground[static_cast<std::size_t>(cell)];
   }
   void paint(int column, TileColor color) {
-    const int cell = cellIndex(view_, view_.activeRow, column);
-    if (cell >= 0) view_.cellBackground[static_cast<std::size_t>(cell)] = color;
+    const int cell = cellIndex(board_, board_.activeRow, column);
+    if (cell >= 0) board_.cellBackground[static_cast<std::size_t>(cell)] = color;
   }
   void mark(int column) { paint(column, TileColor::red); }
 
@@ -58,13 +58,13 @@ class Board {
   }
 
  private:
-  ContentView& view_;
+  Board& board_;
 };
 
 }  // namespace
 
-bool checkGreenTiles(ContentView& view) {
-  Board board(view);
+bool checkGreenTiles(Board& target) {
+  Cells board(target);
   for (int k = 0; k < board.columns(); ++k)
     board.paint(k, TileColor::white);
   for (int r = 0; r < board.active(); ++r) {
@@ -89,8 +89,8 @@ bool checkGreenTiles(ContentView& view) {
   return true;
 }
 
-bool checkBlueTiles(ContentView& view) {
-  Board board(view);
+bool checkBlueTiles(Board& target) {
+  Cells board(target);
   for (int r = 0; r < board.active(); ++r) {
     for (int c = 0; c < board.columns(); ++c) {
       if (board.color(r, c) != TileColor::blue) continue;
@@ -106,8 +106,8 @@ bool checkBlueTiles(ContentView& view) {
   return true;
 }
 
-bool checkGrayTiles(ContentView& view) {
-  Board board(view);
+bool checkGrayTiles(Board& target) {
+  Cells board(target);
   bool result = true;
   for (int r = 0; r < board.active(); ++r) {
     for (int c = 0; c < board.columns(); ++c) {
@@ -126,7 +126,7 @@ bool checkGrayTiles(ContentView& view) {
 namespace {
 
 // All earlier rows: a yellow or orange symbol must come back, and not in the spot shown wrong.
-bool yellowKeptEverywhere(Board& board) {
+bool yellowKeptEverywhere(Cells& board) {
   for (int r = 0; r < board.active(); ++r) {
     for (int c = 0; c < board.columns(); ++c) {
       const TileColor tile = board.color(r, c);
@@ -153,7 +153,7 @@ bool yellowKeptEverywhere(Board& board) {
 }
 
 // The row just above only: orange asks for fewer copies, yellow for at least as many.
-bool countsKeptFromRowAbove(Board& board) {
+bool countsKeptFromRowAbove(Cells& board) {
   const int above = board.active() - 1;
   for (int c = 0; c < board.columns(); ++c) {
     const TileColor tile = board.color(above, c);
@@ -171,24 +171,25 @@ bool countsKeptFromRowAbove(Board& board) {
 
 }  // namespace
 
-bool checkYellowTiles(ContentView& view) {
-  Board board(view);
+bool checkYellowTiles(Board& target) {
+  Cells board(target);
   if (!yellowKeptEverywhere(board)) return false;
   if (board.active() < 1) return true;
   return countsKeptFromRowAbove(board);
 }
 
-bool passesSmartMode(ContentView& view) {
-  return checkGreenTiles(view) && checkBlueTiles(view) && checkGrayTiles(view) && checkYellowTiles(view);
+bool passesSmartMode(Board& target) {
+  return checkGreenTiles(target) && checkBlueTiles(target) && checkGrayTiles(target) &&
+         checkYellowTiles(target);
 }
 
-bool isPerfectGame(const ContentView& view) {
-  int rows = view.activeRow == view.gameRows ? view.activeRow - 1 : view.activeRow;
+bool isPerfectGame(const RowMarkSet& marks, int activeRow, int gameRows) {
+  int rows = activeRow == gameRows ? activeRow - 1 : activeRow;
   rows = rows < kMarkedRows ? rows : kMarkedRows;
   for (int i = 0; i < rows; ++i) {
     const auto n = static_cast<std::size_t>(i);
-    if (view.smartModeError[n] || !view.smartModeCorrect[n] || view.validGuessError[n] || view.usedHints[n] ||
-        view.singleHint[n]) {
+    if (marks.smartModeError[n] || !marks.smartModeCorrect[n] || marks.validGuessError[n] ||
+        marks.usedHints[n] || marks.singleHint[n]) {
       return false;
     }
   }

@@ -4,17 +4,18 @@
 
 namespace tessarine {
 
-struct ContentView;
+struct Board;
+struct RowMarkSet;
 
-bool checkGreenTiles(ContentView& view);
-bool checkBlueTiles(ContentView& view);
-bool checkGrayTiles(ContentView& view);
-bool checkYellowTiles(ContentView& view);
+bool checkGreenTiles(Board& board);
+bool checkBlueTiles(Board& board);
+bool checkGrayTiles(Board& board);
+bool checkYellowTiles(Board& board);
 
 // The four checks in their fixed order, stopping at the first failure.
-bool passesSmartMode(ContentView& view);
+bool passesSmartMode(Board& board);
 
 // Every played row kept the colour code and took no hint: the gold star beside the score.
-bool isPerfectGame(const ContentView& view);
+bool isPerfectGame(const RowMarkSet& marks, int activeRow, int gameRows);
 
 }  // namespace tessarine

@@ -3,16 +3,17 @@
 
 #include <string_view>
 
+#include "engine/board.h"
+
 namespace tessarine {
 
-struct ContentView;
 class Lists;
 
 // Word lists match on a line's first characters, prime lists on the whole trimmed line,
 // equations are evaluated, and every other type accepts any full row.
-bool isValidGuess(const ContentView& view, const Lists& lists, std::string_view guess);
+bool isValidGuess(std::string_view gameType, const Lists& lists, std::string_view guess);
 
 // True when `guess` equals one of the rows above `activeRow`.
-bool wasUsedBefore(const ContentView& view, std::string_view guess);
+bool wasUsedBefore(const Board& board, std::string_view guess);
 
 }  // namespace tessarine

@@ -1,10 +1,13 @@
 #include "session/session.h"
 
 #include "catalogue/calendar.h"
-#include "catalogue/catalogue.h"
-#include "storage/bonus_record.h"
+#include "engine/hints.h"
+#include "engine/keypad_colors.h"
+#include "session/bonus_check.h"
+#include "session/day_store.h"
+#include "session/game_setup.h"
+#include "session/settings_load.h"
 #include "storage/day_record.h"
-#include "storage/settings_record.h"
 
 namespace tessarine {
 
@@ -25,12 +28,23 @@ void Session::launch() {
   reloadDay(true, true);
 }
 
-void Session::applyOptions() {
+bool Session::applyOptions(const Options& options) {
+  if (options == view_.options()) return false;
+  view_.options() = options;
   saveOptions(view_, stores_.settingDM);
   applyCatalogue(view_);
   view_.numberOfHints = -1;
   reloadDay(true, true);
   view_.updateSettings = false;
+  return true;
+}
+
+void Session::computeHintsNow() {
+  computeHints(view_, view_, view_, lists_, view_.gameType, view_.latestDateIndex + view_.activeDate);
+}
+
+void Session::refreshKnowledge() {
+  view_.disableGreenButton = !updateKnowledge(view_, view_, view_);
 }
 
 void Session::changePhase(ScenePhase phase) {
@@ -70,7 +84,7 @@ void Session::storeDay(int score, bool rejected) {
 void Session::rewriteShownRecord(const DayRecord& record, int score) {
   // Delete and write in one step, so a failed write never loses the day.
   const int day = std::max(0, view_.latestDateIndex + view_.activeDate);
-  stores_.coreDM.replaceEntry(record.entry, buildDayRecord(view_, day, score, false));
+  stores_.coreDM.replaceEntry(record.entry, dayRecordOf(view_, day, score, false));
   records_.invalidate();
 }
 

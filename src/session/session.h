@@ -27,14 +27,15 @@ class Session {
           RandomSource& random, std::ostream& log = std::cout);
 
   const ContentView& view() const { return view_; }
-  ContentView& mutableView() { return view_; }  // options screen edits, then applyOptions()
   const Lists& lists() const { return lists_; }
   const Clock& clock() const { return clock_; }
-  DataManagers& stores() { return stores_; }
 
   // Start, options and phases.
   void launch();
-  void applyOptions();  // after the options screen closed with `updateSettings` set
+  Options options() const { return view_.options(); }
+  // Applies a changed game type or option at once: saves the settings record, applies the
+  // catalogue and refreshes. Returns false, and does nothing, when nothing changed.
+  bool applyOptions(const Options& options);
   void changePhase(ScenePhase phase);
 
   // Entry and submission.
@@ -76,6 +77,8 @@ class Session {
  private:
   int today() const;  // today's 0-based day index
   void knowledgeUpdate();
+  void refreshKnowledge();  // the keypad passes over the rows up to `activeRow`
+  void computeHintsNow();   // filters the hints of the shown day
   void finishWonRow();
   void rewriteShownRecord(const DayRecord& record, int score);
   void deleteRecord(const DayRecord& record);

@@ -1,6 +1,6 @@
 // The cell cursor and the buttons that change the active row without submitting it.
 #include "catalogue/catalogue.h"
-#include "engine/scoring.h"
+#include "session/game_setup.h"
 #include "session/session.h"
 
 namespace tessarine {
@@ -22,7 +22,7 @@ void Session::enterSymbol(const std::string& symbol) {
   v.cellBorderWidth[cell] = 1.0;
   // The cursor moves right and wraps to the row's first cell; it jumps over the equals tile.
   int next = cell % v.gameLetters == v.gameLetters - 1 ? cell - (v.gameLetters - 1) : cell + 1;
-  if (isEquationType(v.gameType) && next % v.gameLetters == equalsIndex(v, lists_)) next += 1;
+  if (isEquationType(v.gameType) && next % v.gameLetters == v.answer.equalsColumn) next += 1;
   v.currentPosition = next;
   v.cellBorderWidth[next] = 4.0;
 }
@@ -35,11 +35,10 @@ bool Session::keyLive(const std::string& symbol) const {
   if (!onKeypad || !v.showKeypad) return false;
   if (!isEquationType(v.gameType)) return true;
   const int column = v.currentPosition % v.gameLetters;
-  const int equals = equalsIndex(v, lists_);
+  const int equals = v.answer.equalsColumn;
   const bool beside = column == equals - 1 || column == v.gameLetters - 1;
   if (symbol == "-") return !beside && !v.disableMinusKey;
-  const bool disabled = (symbol == "+" && v.disablePlusKey) || (symbol == "X" && v.disableMultiplyKey) ||
-                        (symbol == "/" && v.disableDivideKey);
+  const bool disabled = operatorDisabled(v, symbol);
   if (symbol == "+" || symbol == "X" || symbol == "/")
     return !(column == 0 || beside || column == equals + 1 || disabled);
   return true;
@@ -48,7 +47,7 @@ bool Session::keyLive(const std::string& symbol) const {
 void Session::touchCell(int column) {
   ContentView& v = view_;
   if (!v.showKeypad || column < 0 || column >= v.gameLetters) return;
-  if (isEquationType(v.gameType) && column == equalsIndex(v, lists_)) return;
+  if (isEquationType(v.gameType) && column == v.answer.equalsColumn) return;
   const int cell = v.activeRow * v.gameLetters + column;
   if (cell >= kMaximumCells) return;
   v.cellBorderWidth[v.currentPosition] = 1.0;

@@ -5,7 +5,7 @@
 
 #include "catalogue/calendar.h"
 #include "catalogue/catalogue.h"
-#include "engine/scoring.h"
+#include "session/game_setup.h"
 #include "session/session.h"
 #include "session/session_replay.h"
 #include "storage/record_text.h"
@@ -18,20 +18,11 @@ void resetBoard(ContentView& v) {
   v.showHintDefinition = false;
   v.showKeypad = true;
   v.disableSubmit = v.disableHints = v.disableGreenButton = true;
-  v.cellLetter.fill(kEmptyCell);
-  v.cellBackground.fill(TileColor::white);
-  v.keypadKeyColor.fill(TileColor::white);
-  v.cellBorderWidth.fill(1.0);
-  v.cellBorderWidth[0] = 4.0;
-  for (RowMarks* marks :
-       {&v.smartModeCorrect, &v.smartModeError, &v.validGuessError, &v.usedHints, &v.singleHint})
-    marks->fill(false);
+  v.clearCells();
+  v.clearMarks();
   // Operator keys that the game type switches off never take a colour.
-  if (v.gameType == "N" || v.gameType == "Q" || v.gameType == "T") {
-    v.keypadKeyColor[11] = v.keypadKeyColor[13] = TileColor::black;
-  } else if (v.gameType == "O" || v.gameType == "R" || v.gameType == "U") {
-    v.keypadKeyColor[3] = v.keypadKeyColor[7] = TileColor::black;
-  }
+  for (std::size_t k = 0; k < v.keypadKeyColor.size(); ++k)
+    v.keypadKeyColor[k] = operatorDisabled(v, v.keypadLetters[k]) ? TileColor::black : TileColor::white;
 }
 
 bool recordHasEqualsAt(const DayRecord& record, int column) {
@@ -54,13 +45,15 @@ void Session::reloadDay(bool recomputeStreaks, bool recomputeLatest) {
   v.numCellEntries = 0;
   const std::vector<DayRecord>& records = records_.records(stores_.coreDM, log_);
   v.latestDateIndex = daysNow - 1;
+  v.answer = shownAnswer(v, lists_);
   // Taken from today's answer once today is known, so the first refresh after launch (and after
   // midnight) compares with the right equation.
-  const int equalsPosition = v.prepopulate && isEquationType(v.gameType) ? equalsIndex(v, lists_) : 0;
+  const int equalsPosition = v.prepopulate && isEquationType(v.gameType) ? v.answer.equalsColumn : 0;
   const std::string key = paddedDayIndex(v.latestDateIndex + v.activeDate) + v.gameType;
 
   ReplayScan scan;
   statistics_.begin(v, v.latestDateIndex);
+  const StatisticsScope scope = v.statisticsScope();
   for (int i = 0; i < static_cast<int>(records.size()); ++i) {
     const DayRecord& record = records[i];
     if (record.key == key) {
@@ -77,10 +70,10 @@ void Session::reloadDay(bool recomputeStreaks, bool recomputeLatest) {
     }
     statistics_.count(v, record.dayIndex, score);
   }
-  statistics_.finish(v, dateTexts());
+  statistics_.finish(v, scope, dateTexts());
   v.activeRow = 0;
-  if (recomputeLatest) statistics_.latestDates(v);
-  if (recomputeStreaks) statistics_.streaks(v);
+  if (recomputeLatest) statistics_.latestDates(v, scope);
+  if (recomputeStreaks) statistics_.streaks(v, scope);
 
   SessionReplay(*this).run(scan, records);
 

@@ -13,7 +13,7 @@ namespace tessarine {
 int SessionReplay::countRowEntries(int row) {
   ContentView& v = session_.view_;
   const bool equation = isEquationType(v.gameType);
-  const int equals = equation ? equalsIndex(v, session_.lists_) : -1;
+  const int equals = equation ? v.answer.equalsColumn : -1;
   int entries = 0;
   for (int column = 0; column < v.gameLetters; ++column) {
     std::string& letter = v.cellLetter[row * v.gameLetters + column];
@@ -36,7 +36,6 @@ void SessionReplay::prepopulate(const DayRecord& source) {
 
 void SessionReplay::run(const ReplayScan& scan, const std::vector<DayRecord>& records) {
   ContentView& v = session_.view_;
-  const Lists& lists = session_.lists_;
   const DayRecord* shown = scan.lastMatch >= 0 ? &records[scan.lastMatch] : nullptr;
   const std::vector<std::string> tiles = shown ? splitSymbols(shown->tileText) : std::vector<std::string>{};
   const int firstCell = shown ? shown->firstCell : 6;
@@ -54,7 +53,7 @@ void SessionReplay::run(const ReplayScan& scan, const std::vector<DayRecord>& re
       v.activeRow = row;
       v.activeWord = rowWord(v, row);
       if (row >= 1 && passesSmartMode(v)) v.smartModeCorrect[row - 1] = true;
-      scoreGuess(v, lists, v.activeWord);
+      scoreGuess(v, v.activeWord);
     }
     v.activeRow = rowsUsed - 1;
     v.currentPosition = v.activeRow * v.gameLetters;
@@ -65,31 +64,30 @@ void SessionReplay::run(const ReplayScan& scan, const std::vector<DayRecord>& re
 
   // The player never types the equals sign.
   if (v.showKeypad && isEquationType(v.gameType))
-    v.cellLetter[v.activeRow * v.gameLetters + equalsIndex(v, lists)] = "=";
+    v.cellLetter[v.activeRow * v.gameLetters + v.answer.equalsColumn] = "=";
 }
 
 void SessionReplay::lastFullRow(const ReplayScan& scan, const std::vector<DayRecord>& records,
                                 bool smartRecord) {
   ContentView& v = session_.view_;
-  const Lists& lists = session_.lists_;
   v.disableSubmit = false;
   v.activeWord = rowWord(v, v.activeRow);
-  if (!isValidGuess(v, lists, v.activeWord)) {
-    fillRow(v, lists, TileColor::cyan);
-    updateKnowledge(v);
-    if (hasHints(v) && v.wantHints && v.activeRow > 0) {
-      if (v.numberOfHints == -1) computeHints(v, lists);
+  if (!isValidGuess(v.gameType, session_.lists_, v.activeWord)) {
+    fillRow(v, TileColor::cyan);
+    session_.refreshKnowledge();
+    if (hasHints(v.gameType) && v.wantHints && v.activeRow > 0) {
+      if (v.numberOfHints == -1) session_.computeHintsNow();
       v.displayHintsNumbers = true;
     }
-  } else if (isWin(v, lists, v.activeWord) && !smartRecord) {
-    fillRow(v, lists, TileColor::green);
+  } else if (isWin(v, v.activeWord) && !smartRecord) {
+    fillRow(v, TileColor::green);
     v.cellBorderWidth[v.currentPosition] = 1.0;
     v.showKeypad = false;
     if (v.activeRow != scan.lastScore - 1)
       session_.rewriteShownRecord(records[scan.lastMatch], v.activeRow + 1);
     if (v.activeRow >= 1) v.smartModeCorrect[v.activeRow - 1] = true;
   } else if (wasUsedBefore(v, v.activeWord)) {
-    fillRow(v, lists, TileColor::purple);
+    fillRow(v, TileColor::purple);
   } else if (!smartRecord) {
     acceptedRow(scan, records);
   } else {
@@ -99,14 +97,13 @@ void SessionReplay::lastFullRow(const ReplayScan& scan, const std::vector<DayRec
 
 void SessionReplay::acceptedRow(const ReplayScan& scan, const std::vector<DayRecord>& records) {
   ContentView& v = session_.view_;
-  const Lists& lists = session_.lists_;
   v.disableSubmit = true;
   if (v.activeRow >= 1 && passesSmartMode(v)) v.smartModeCorrect[v.activeRow - 1] = true;
-  scoreGuess(v, lists, v.activeWord);
-  updateKnowledge(v);
-  if (hasHints(v) && v.wantHints) {
+  scoreGuess(v, v.activeWord);
+  session_.refreshKnowledge();
+  if (hasHints(v.gameType) && v.wantHints) {
     // Narrow only for a newly accepted row, so that hints taken on this row stay taken.
-    if (session_.rowJustAccepted_ || v.numberOfHints == -1) computeHints(v, lists);
+    if (session_.rowJustAccepted_ || v.numberOfHints == -1) session_.computeHintsNow();
     v.displayHintsNumbers = true;
     v.disableHints = false;
   }
@@ -129,10 +126,10 @@ void SessionReplay::acceptedRow(const ReplayScan& scan, const std::vector<DayRec
 void SessionReplay::openRow() {
   ContentView& v = session_.view_;
   const int markRow = v.activeRow - 1;
-  updateKnowledge(v);  // the keys still show what the rows above taught
+  session_.refreshKnowledge();  // the keys still show what the rows above taught
   if (markRow >= 0 && v.smartModeError[markRow]) passesSmartMode(v);  // the red cells come back
   if (markRow >= 0 && v.usedHints[markRow]) {
-    if (hasHints(v) && v.wantHints && v.numberOfHints == -1) computeHints(v, session_.lists_);
+    if (hasHints(v.gameType) && v.wantHints && v.numberOfHints == -1) session_.computeHintsNow();
     v.displayHintsNumbers = true;
     v.disableHints = true;  // one row takes one hint
     v.showHintDefinition = v.showDefinitions;

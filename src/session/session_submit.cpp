@@ -12,7 +12,7 @@ namespace tessarine {
 
 void Session::finishWonRow() {
   view_.disableGreenButton = true;
-  fillRow(view_, lists_, TileColor::green);
+  fillRow(view_, TileColor::green);
   view_.cellBorderWidth[view_.currentPosition] = 1.0;
   storeDay(view_.activeRow + 1, false);
   reloadDay(true, true);
@@ -22,7 +22,7 @@ void Session::finishWonRow() {
 void Session::knowledgeUpdate() {
   // The row just stored was scored by the replay but `activeRow` already counts it.
   view_.activeRow -= 1;
-  updateKnowledge(view_);
+  refreshKnowledge();
   view_.activeRow += 1;
 }
 
@@ -32,17 +32,17 @@ void Session::submitGuess() {
   v.activeWord = rowWord(v, v.activeRow);
   if (v.numCellEntries == 0) return;
   const int markRow = v.activeRow - 1;  // marks are indexed by board row - 1
-  if (!isValidGuess(v, lists_, v.activeWord)) {
-    fillRow(v, lists_, TileColor::cyan);
+  if (!isValidGuess(v.gameType, lists_, v.activeWord)) {
+    fillRow(v, TileColor::cyan);
     if (markRow >= 0 && !v.smartModeError[markRow]) v.validGuessError[markRow] = true;
     storeDay(0, false);
     reloadDay(false, false);
-  } else if (isWin(v, lists_, v.activeWord)) {
+  } else if (isWin(v, v.activeWord)) {
     // The win test comes before Smart Mode: a winning row that breaks the colour code still wins.
     if (markRow >= 0) v.smartModeCorrect[markRow] = true;
     finishWonRow();
   } else if (wasUsedBefore(v, v.activeWord)) {
-    fillRow(v, lists_, TileColor::purple);  // nothing is stored
+    fillRow(v, TileColor::purple);  // nothing is stored
   } else if (markRow >= 0 && v.smartMode && !passesSmartMode(v)) {
     v.smartModeError[markRow] = true;
     v.usedHints[markRow] = false;
@@ -73,7 +73,7 @@ void Session::submitGuess() {
 bool Session::hintsButtonLive() const {
   const ContentView& v = view_;
   return v.showKeypad && !v.disableHints && v.wantHints && v.activeRow > 0 && v.numberOfAvailableHints > 0 &&
-         hasHints(v);
+         hasHints(v.gameType);
 }
 
 void Session::pressHints() {
@@ -88,7 +88,7 @@ void Session::confirmHint() {
   ContentView& v = view_;
   v.showHintsAlert = false;
   if (!v.showKeypad || v.activeRow < 1) return;
-  const std::string hint = drawHint(v, lists_, random_);
+  const std::string hint = drawHint(v, v.answer, random_);
   if (rowWord(v, v.activeRow) != hint) {
     const std::vector<std::string> symbols = splitSymbols(hint);
     const int first = v.activeRow * v.gameLetters;

@@ -13,13 +13,20 @@ bool gameWon(const ContentView& view) {
 }
 
 std::string definitionOf(const ContentView& view, const Lists& lists, const std::string& word) {
-  if (view.gameType == "W" || view.gameType == "X") return lists.translation(view.gameType, word);
   const GameTypeInfo* info = findGameType(view.gameType);
+  if (info != nullptr && !info->translationFile.empty()) return lists.translation(view.gameType, word);
   if (info == nullptr || info->typeOfGame != "L" || info->validityFile.empty()) return {};
   return lists.definition(std::string(info->validityFile), word);
 }
 
 }  // namespace
+
+std::string christmasPresentText(int days, const std::string& newMinimumDay,
+                                 const std::string& oldMinimumDay) {
+  return "\n\nAs a present from Tessarine, " + std::to_string(days) +
+         " new available days have been added to your game. Your new earliest available date is now " +
+         newMinimumDay + ", instead of your old date of " + oldMinimumDay + ".";
+}
 
 std::string scoreLine(const ContentView& view) {
   if (view.showKeypad) return {};
@@ -27,7 +34,7 @@ std::string scoreLine(const ContentView& view) {
 }
 
 MarkSymbol scoreMark(const ContentView& view) {
-  if (view.showKeypad || !isPerfectGame(view)) return {};
+  if (view.showKeypad || !isPerfectGame(view, view.activeRow, view.gameRows)) return {};
   const GameTypeInfo* info = findGameType(view.gameType);
   const int score = gameWon(view) ? view.activeRow + 1 : view.gameRows + 1;
   if (info != nullptr && score < info->par) return {"graduationcap.fill", "currentMode"};
@@ -41,7 +48,7 @@ std::string hintsCountLine(const ContentView& view) {
 
 std::string definitionLine(const ContentView& view, const Lists& lists) {
   if (view.showKeypad || !view.showDefinitions) return {};
-  return definitionOf(view, lists, mysteryAnswer(view, lists));
+  return definitionOf(view, lists, view.answer.text);
 }
 
 std::string hintDefinitionLine(const ContentView& view, const Lists& lists) {
@@ -89,9 +96,11 @@ MarkSymbol rowMark(const ContentView& view, int row) {
 }
 
 MarkSymbol familyMark(const ContentView& view, int row) {
-  if (view.gameType == "2" || view.gameType == "3")
+  const GameTypeInfo* info = findGameType(view.gameType);
+  if (info == nullptr) return {};
+  if (info->kind == GameKind::geniusWords)
     return {row == 0 ? "graduationcap.fill" : "graduationcap.blank", "currentMode"};
-  if (view.gameType == "G" || view.gameType == "I" || view.gameType == "K")
+  if (info->kind == GameKind::primeNumbers)
     return {row == 0 ? "parkingsign.circle" : "parkingsign.blank", "currentMode"};
   return {};
 }

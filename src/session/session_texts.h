@@ -5,6 +5,7 @@
 
 #include "catalogue/clock.h"
 #include "catalogue/lists.h"
+#include "session/christmas_texts.h"
 #include "session/content_view.h"
 
 namespace tessarine {
@@ -16,6 +17,10 @@ inline constexpr std::string_view kHintsCountSuffix = " available HINTS.";
 inline constexpr std::string_view kHintsAlertTitle = "Select your guess from available HINTS?";
 inline constexpr std::string_view kHintsAlertConfirm = "Confirm:";
 inline constexpr std::string_view kDateListButton = "Select Date";
+
+// What the present adds to the Christmas message: the days opened, the earliest day after and before.
+std::string christmasPresentText(int days, const std::string& newMinimumDay,
+                                 const std::string& oldMinimumDay);
 
 // A system symbol name and the named colour it is drawn in; an empty symbol draws nothing.
 struct MarkSymbol {

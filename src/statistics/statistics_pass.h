@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-namespace tessarine {
+#include "statistics/statistics.h"
 
-struct ContentView;
+namespace tessarine {
 
 // One pass over the day records of the shown game type: counts, histogram, the last ten scores,
 // the six sorted score lists, the date list, the latest-day fields and the streaks. The session
@@ -15,18 +15,18 @@ class StatisticsPass {
  public:
   static constexpr int kCalendarDays = 36500;
 
-  // Resets the counters of `view` and the day table for today `latestDateIndex`.
-  void begin(ContentView& view, int latestDateIndex);
+  // Resets the counters of `stats` and the day table for today `latestDateIndex`.
+  void begin(Statistics& stats, int latestDateIndex);
   // One record of the shown game type, in store order. A day after today or before day 0, or a
   // score digit that does not fit the histogram, is left out so that a damaged record never
   // overruns a table. Returns whether the record was counted.
-  bool count(ContentView& view, int day, int score);
+  bool count(Statistics& stats, int day, int score);
   // Sorts the score lists and rebuilds `allDatesInfo` from today down to `minimumDayIndex`;
   // `dateTexts[k]` is the shown date of the day k days before today.
-  void finish(ContentView& view, std::span<const std::string> dateTexts);
+  void finish(Statistics& stats, const StatisticsScope& scope, std::span<const std::string> dateTexts);
   // The latest-day fields, and the streaks that lean on them.
-  void latestDates(ContentView& view) const;
-  void streaks(ContentView& view) const;
+  void latestDates(Statistics& stats, const StatisticsScope& scope) const;
+  void streaks(Statistics& stats, const StatisticsScope& scope) const;
 
   // -1 no record, 0 unfinished, above 0 the score.
   int scoreOfDay(int day) const { return day >= 0 && day < kCalendarDays ? dayScores_[day] : -1; }

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "catalogue/calendar.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/lists.h"
+#include "engine/board.h"
 #include "storage/record_text.h"
 
 namespace tessarine {
@@ -60,16 +60,17 @@ std::string problemAt(std::size_t position, const std::string& what) {
 
 }  // namespace
 
-char rowMarkDigit(const ContentView& view, int row, bool smartModeFlag) {
-  if (view.singleHint[row]) return '7';
-  if (view.usedHints[row]) return smartModeFlag ? '6' : '5';
-  if (view.smartModeError[row]) return smartModeFlag ? '3' : '2';
-  if (view.validGuessError[row]) return '4';
-  if (view.smartModeCorrect[row]) return '1';
+char rowMarkDigit(const RowMarkSet& marks, int row, bool smartModeFlag) {
+  const auto n = static_cast<std::size_t>(row);
+  if (marks.singleHint[n]) return '7';
+  if (marks.usedHints[n]) return smartModeFlag ? '6' : '5';
+  if (marks.smartModeError[n]) return smartModeFlag ? '3' : '2';
+  if (marks.validGuessError[n]) return '4';
+  if (marks.smartModeCorrect[n]) return '1';
   return '0';
 }
 
-bool restoreRowMarks(ContentView& view, std::string_view marks) {
+bool restoreRowMarks(RowMarkSet& view, std::string_view marks) {
   bool smartRecord = false;
   for (std::size_t row = 0; row < std::min<std::size_t>(marks.size(), kMarkedRows); ++row) {
     switch (marks[row]) {
@@ -101,20 +102,16 @@ bool restoreRowMarks(ContentView& view, std::string_view marks) {
   return smartRecord;
 }
 
-std::string buildDayRecord(const ContentView& view, int dayIndex, int score, bool smartModeFlag) {
-  std::string record = paddedDayIndex(dayIndex) + view.gameType + std::to_string(score);
-  for (int c = 0; c < kRecordCells; ++c)
-    record += view.cellLetter[c] == kEmptyCell ? " " : view.cellLetter[c];
+std::string buildDayRecord(int dayIndex, std::string_view gameType, int score,
+                           std::span<const std::string> cells, const RowMarkSet& marks, bool smartModeFlag) {
+  std::string record = paddedDayIndex(dayIndex) + std::string(gameType) + std::to_string(score);
+  for (std::size_t c = 0; c < kRecordCells; ++c) {
+    const bool empty = c >= cells.size() || cells[c] == kEmptyCell;
+    record += empty ? std::string(" ") : cells[c];
+  }
   for (int row = 0; row < kMarkedRows; ++row)
-    record += rowMarkDigit(view, row, smartModeFlag);
+    record += rowMarkDigit(marks, row, smartModeFlag);
   return record;
-}
-
-void storeDay(ContentView& view, CoreDataManager& coreDM, const Clock& clock, int score, bool flag) {
-  if (score >= 1 && score <= kScoreSlots) view.scoreInt[score - 1] += 1;
-  const int today = daysFromApril1st(clock) - 1;
-  if (view.latestDateIndex != today && view.latestDateIndex >= 0) view.activeDate += view.latestDateIndex;
-  coreDM.saveEntry(buildDayRecord(view, std::max(0, today + view.activeDate), score, flag));
 }
 
 std::optional<DayRecord> parseDayRecord(const Entry& entry, std::string& problem) {

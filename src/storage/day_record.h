@@ -6,8 +6,9 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/clock.h"
-#include "session/content_view.h"
+#include <span>
+
+#include "engine/row_marks.h"
 #include "storage/data_manager.h"
 
 namespace tessarine {
@@ -15,8 +16,8 @@ namespace tessarine {
 // A day record is 62 characters (not bytes): the day index in four digits (five from day 10000,
 // which moves every later field by one), the game type, the score digit, 50 cells with one blank
 // for an empty cell, and one mark digit for each of rows 0 to 5.
-constexpr int kDayRecordLength = kMaximumCells + kMarkedRows;
-constexpr int kRecordCells = kMaximumCells - kMarkedRows;
+constexpr int kRecordCells = 50;
+constexpr int kDayRecordLength = 6 + kRecordCells + kMarkedRows;
 // The reader's tile text reaches only to cell 46; cell 47 of the 8-tile equations never comes back.
 constexpr int kTileTextLength = 53;
 
@@ -32,13 +33,10 @@ struct DayRecord {
   int firstCell = 6;     // character position of cell 0 (7 for a five-digit day)
 };
 
-std::string buildDayRecord(const ContentView& view, int dayIndex, int score, bool smartModeFlag);
-
-// Writes the shown day's record as a new record; an older one for the day stays for the refresh
-// to remove. A guess sent after midnight without a scene change moves `activeDate` by the whole
-// of `latestDateIndex`: that is how the game has always behaved, and the next scene change puts
-// the day right again.
-void storeDay(ContentView& view, CoreDataManager& coreDM, const Clock& clock, int score, bool flag);
+// The record of a day: `cells` are the board's first cells (an empty cell is "   "), of which the
+// first 50 are kept; `marks` give the six mark digits.
+std::string buildDayRecord(int dayIndex, std::string_view gameType, int score,
+                           std::span<const std::string> cells, const RowMarkSet& marks, bool smartModeFlag);
 
 // nullopt with a one-line `problem` when the record cannot be read without guessing.
 std::optional<DayRecord> parseDayRecord(const Entry& entry, std::string& problem);
@@ -59,10 +57,10 @@ std::vector<std::string> restoredCells(const DayRecord& record);
 void padDayRecords(CoreDataManager& coreDM);
 
 // The mark digit of one row, the first that applies of 7, 6/5, 3/2, 4, 1, 0.
-char rowMarkDigit(const ContentView& view, int row, bool smartModeFlag);
+char rowMarkDigit(const RowMarkSet& marks, int row, bool smartModeFlag);
 
 // Sets the row marks that the six mark characters stand for (nothing is cleared). Returns true
 // when a "3" or "6" says the last row was refused by Smart Mode and is not yet played.
-bool restoreRowMarks(ContentView& view, std::string_view marks);
+bool restoreRowMarks(RowMarkSet& marks, std::string_view text);
 
 }  // namespace tessarine

@@ -1,99 +1,31 @@
 #include "storage/settings_record.h"
 
-#include <array>
-#include <iostream>
-
-#include "catalogue/calendar.h"
 #include "catalogue/lists.h"
 #include "storage/record_text.h"
 
 namespace tessarine {
-namespace {
 
-// The options in record order, after the game type.
-std::array<bool ContentView::*, 8> optionFields() {
-  return {&ContentView::smartMode,       &ContentView::prepopulate,  &ContentView::EnglishTranslation,
-          &ContentView::showDefinitions, &ContentView::EnglishWords, &ContentView::wantHints,
-          &ContentView::showStarStatus,  &ContentView::useQWERTY};
-}
-
-// First run, or a store that lost a record: start again from two fresh records.
-void createSettings(ContentView& view, SettingsDataManager& settingDM, CoreDataManager& coreDM,
-                    const Clock& clock) {
-  if (view.settingEntries.size() == 1) settingDM.deleteEntry(view.settingEntries.front());
-  view.cellEntries = coreDM.getAllEntries();
-  std::string minimumDay = "0000";
-  if (view.cellEntries.empty()) {
-    // A new player gets the last fifteen days; one with day records keeps them all open.
-    const int days = daysFromApril1st(clock);
-    view.minimumDayIndex = days < 15 ? 0 : days - 15;
-    minimumDay = paddedDayIndex(view.minimumDayIndex);
-    if (view.noMinimumDay && minimumDay != view.newMinimumDayValue) minimumDay = view.newMinimumDayValue;
-  } else {
-    view.minimumDayIndex = 0;
-  }
-  settingDM.saveEntry(minimumDay);
-  // `gameType` is still "Ó" here and is stored so until the options are next saved.
-  settingDM.saveEntry(optionsRecord(view));
-  view.settingEntries = settingDM.getAllEntries();
-}
-
-// Older versions stored fewer flags: the missing ones take their defaults.
-std::string lengthened(const std::string& options) {
-  const std::size_t length = symbolCount(options);
-  if (length >= 9) return options;
-  const std::string_view defaults = kDefaultFlags;
-  return options + std::string(defaults.substr(length - 1));
-}
-
-void readSettings(ContentView& view, SettingsDataManager& settingDM) {
-  const std::vector<Entry>& entries = view.settingEntries;
-  view.minimumDayIndex = parseIntOr(trimView(entries[0].text), 0);
-  if (view.noMinimumDay && entries[0].text != view.newMinimumDayValue) {
-    view.minimumDayIndex = parseIntOr(view.newMinimumDayValue, 0);
-    settingDM.updateEntry(entries[0], view.newMinimumDayValue);
-  }
-  const bool twoRecords = entries.size() == 2;
-  const Entry& optionsEntry = entries[twoRecords ? 1 : 2];
-  std::string options(trimView(optionsEntry.text));
-  if (options.empty()) options = view.gameType.empty() ? std::string("Ó") : view.gameType;
-  const std::string full = lengthened(options);
-  const std::vector<std::string> symbols = splitSymbols(full);
-  view.gameType = symbols[0];
-  const auto fields = optionFields();
-  for (std::size_t i = 0; i < fields.size(); ++i)
-    view.*fields[i] = symbols[i + 1] == "Y";
-  if (twoRecords && full != options) settingDM.updateEntry(optionsEntry, full);
-  if (!twoRecords) settingDM.deleteEntry(entries[1]);
-  view.settingEntries = settingDM.getAllEntries();
-}
-
-}  // namespace
-
-void loadSettings(ContentView& view, SettingsDataManager& settingDM, CoreDataManager& coreDM,
-                  const Clock& clock) {
-  view.settingEntries = settingDM.getAllEntries();
-  if (view.settingEntries.size() < 2) {
-    createSettings(view, settingDM, coreDM, clock);
-  } else {
-    readSettings(view, settingDM);
-  }
-  if (view.gameType == "Ó") view.gameType = "C";
-}
-
-std::string optionsRecord(const ContentView& view) {
-  std::string record = view.gameType;
-  for (const auto field : optionFields())
-    record += view.*field ? "Y" : "N";
+std::string optionsRecord(const Options& options) {
+  std::string record = options.gameType;
+  for (const OptionInfo& option : optionTable())
+    record += options.*option.field ? "Y" : "N";
   return record;
 }
 
-void saveOptions(const ContentView& view, SettingsDataManager& settingDM) {
-  if (view.settingEntries.size() < 2) {
-    std::cout << "Failed to save context the settings records are not loaded" << std::endl;
-    return;
-  }
-  settingDM.updateEntry(view.settingEntries[1], optionsRecord(view));
+std::string lengthenedOptions(const std::string& record) {
+  const std::size_t length = symbolCount(record);
+  if (length >= 9) return record;
+  const std::string_view defaults = kDefaultFlags;
+  return record + std::string(defaults.substr(length - 1));
+}
+
+Options parseOptionsRecord(const std::string& record) {
+  const std::vector<std::string> symbols = splitSymbols(record);
+  Options options;
+  options.gameType = symbols[0];
+  for (const OptionInfo& option : optionTable())
+    options.*option.field = symbols[static_cast<std::size_t>(option.recordPosition)] == "Y";
+  return options;
 }
 
 bool writeMinimumDay(SettingsDataManager& settingDM, int minimumDayIndex) {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
-#include "catalogue/clock.h"
-#include "session/content_view.h"
 #include "storage/data_manager.h"
+#include "storage/options.h"
 
 namespace tessarine {
 
@@ -12,18 +12,14 @@ namespace tessarine {
 // `gameType` followed by eight "Y"/"N" flags. Only "Y" reads as true.
 constexpr const char* kDefaultFlags = "NNYYYNNY";
 
-// Sets `minimumDayIndex`, `gameType` and the options from the store, creating the records on a
-// first run, mending a damaged store and lengthening records of older versions. Fills
-// `settingEntries` (and `cellEntries` when it had to look for a returning player's days).
-void loadSettings(ContentView& view, SettingsDataManager& settingDM, CoreDataManager& coreDM,
-                  const Clock& clock);
-
 // `gameType` and the eight flags, e.g. "CNNYYYNNY".
-std::string optionsRecord(const ContentView& view);
+std::string optionsRecord(const Options& options);
 
-// Rewrites record 1 from the session. Without the two records loaded, prints a line and keeps
-// the store as it is.
-void saveOptions(const ContentView& view, SettingsDataManager& settingDM);
+// Older versions stored fewer flags: the missing ones take their defaults.
+std::string lengthenedOptions(const std::string& record);
+
+// The options of a full-length record.
+Options parseOptionsRecord(const std::string& record);
 
 // Rewrites record 0; false when there is no record 0 or the write failed.
 bool writeMinimumDay(SettingsDataManager& settingDM, int minimumDayIndex);

@@ -7,8 +7,11 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/lists.h"
+#include "engine/hints.h"
+#include "engine/keypad_colors.h"
 #include "engine/scoring.h"
 #include "session/content_view.h"
+#include "session/game_setup.h"
 
 namespace tessarine::testing {
 
@@ -41,6 +44,13 @@ struct EngineBoard {
     if (!info->validityFile.empty()) source.files[std::string(info->validityFile)] = joinLines(validity);
     view.gameType = type;
     applyCatalogue(view);
+    view.answer = Answer(lists.answer(type, 0));
+  }
+
+  // The knowledge passes, with the green button as the session sets it.
+  void updateKnowledge() { view.disableGreenButton = !tessarine::updateKnowledge(view, view, view); }
+  void computeHints() {
+    tessarine::computeHints(view, view, view, lists, view.gameType, view.latestDateIndex + view.activeDate);
   }
 
   void enter(int row, const std::string& guess) {
@@ -54,10 +64,10 @@ struct EngineBoard {
   void play(const std::vector<std::string>& guesses) {
     for (std::size_t row = 0; row < guesses.size(); ++row) {
       enter(static_cast<int>(row), guesses[row]);
-      if (isWin(view, lists, guesses[row])) {
-        fillRow(view, lists, TileColor::green);
+      if (isWin(view, guesses[row])) {
+        fillRow(view, TileColor::green);
       } else {
-        scoreGuess(view, lists, guesses[row]);
+        scoreGuess(view, guesses[row]);
       }
     }
   }

@@ -18,8 +18,8 @@ const std::vector<std::string> kFiveLetters = {
 // Plays the rows and runs what the replay runs after the last one.
 void replay(EngineBoard& board, const std::vector<std::string>& rows) {
   board.play(rows);
-  updateKnowledge(board.view);
-  computeHints(board.view, board.lists);
+  board.updateKnowledge();
+  board.computeHints();
 }
 
 struct HintCase {
@@ -121,17 +121,17 @@ TEST(DrawHint, TakesOneAtRandomAndKeepsTheLast) {
   replay(board, {"CARGO"});
   ASSERT_EQ(board.view.allHints.size(), 2u);
   SplitMix64 random(7);
-  const std::string first = drawHint(board.view, board.lists, random);
+  const std::string first = drawHint(board.view, board.view.answer, random);
   EXPECT_TRUE(first == "CRANE" || first == "CRATE");
   EXPECT_EQ(board.view.allHints.size(), 1u);
   EXPECT_EQ(board.view.numberOfAvailableHints, 1);
   EXPECT_EQ(board.view.numberOfHints, 2);
-  const std::string second = drawHint(board.view, board.lists, random);
+  const std::string second = drawHint(board.view, board.view.answer, random);
   EXPECT_NE(second, first);
   EXPECT_EQ(board.view.allHints.size(), 1u);  // the last one stays in place
   EXPECT_EQ(board.view.numberOfAvailableHints, 0);
   board.view.allHints.clear();
-  EXPECT_EQ(drawHint(board.view, board.lists, random), "CRANE");
+  EXPECT_EQ(drawHint(board.view, board.view.answer, random), "CRANE");
 }
 
 TEST(DrawHint, ShuffleIsUniform) {
@@ -142,7 +142,7 @@ TEST(DrawHint, ShuffleIsUniform) {
     view.allHints = {"A", "B", "C"};
     view.numberOfAvailableHints = 3;
     EngineBoard unused("C", "CRANE");
-    counts[drawHint(view, unused.lists, random)]++;
+    counts[drawHint(view, view.answer, random)]++;
   }
   for (const auto& [hint, count] : counts)
     EXPECT_NEAR(count, 1000, 120) << hint;

@@ -29,7 +29,7 @@ TEST_P(KeyColour, StrongestTileColourWins) {
   const KeyCase& c = GetParam();
   EngineBoard board(c.type, c.answer);
   board.play(c.rows);
-  updateKnowledge(board.view);
+  board.updateKnowledge();
   EXPECT_EQ(tileColorName(keyColor(board.view, c.key)), tileColorName(c.color))
       << c.answer << " key " << c.key;
 }
@@ -61,7 +61,7 @@ TEST(GrayLetters, RankedByFrequencyOnceEach) {
   for (const auto& c : cases) {
     EngineBoard board(c.type, c.answer);
     board.play(c.rows);
-    updateKnowledge(board.view);
+    board.updateKnowledge();
     EXPECT_EQ(board.view.grayLetters, c.gray) << c.answer;
   }
 }
@@ -79,7 +79,7 @@ TEST(GreenButton, EnabledOnlyByBlueOrGreen) {
     EngineBoard board("C", c.answer);
     board.play({c.guess});
     board.view.disableGreenButton = false;
-    updateKnowledge(board.view);
+    board.updateKnowledge();
     EXPECT_EQ(board.view.disableGreenButton, c.disabled) << c.guess;
   }
 }
@@ -97,7 +97,7 @@ TEST_P(CountBound, FirstMatchingRulePerRow) {
   const BoundCase& c = GetParam();
   EngineBoard board("C", c.answer);
   board.play(c.rows);
-  updateKnowledge(board.view);
+  board.updateKnowledge();
   const auto& unique = board.view.hintLettersUnique;
   const auto at =
       static_cast<std::size_t>(std::find(unique.begin(), unique.end(), c.symbol) - unique.begin());

@@ -58,11 +58,11 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(FillRow, RefusedEquationRowKeepsTheEqualsWhite) {
   EngineBoard board("P", "12+34=46");
   board.enter(2, "99+99=46");
-  fillRow(board.view, board.lists, TileColor::cyan);
+  fillRow(board.view, TileColor::cyan);
   EXPECT_EQ(board.rowColors(2), "cyan cyan cyan cyan cyan white cyan cyan");
-  EXPECT_EQ(equalsIndex(board.view, board.lists), 5);
+  EXPECT_EQ(board.view.answer.equalsColumn, 5);
   EngineBoard words("C", "CRANE");
-  EXPECT_EQ(equalsIndex(words.view, words.lists), 0);
+  EXPECT_EQ(words.view.answer.equalsColumn, 0);
 }
 
 }  // namespace

@@ -25,10 +25,10 @@ TEST_P(SmartMode, FirstFailingCheckMarksTheRightCells) {
   board.enter(active, c.entered);
   // Red marks of an earlier attempt are wiped by the first check.
   board.view.cellBackground[static_cast<std::size_t>(active * 5)] = TileColor::red;
-  const std::pair<const char*, bool (*)(ContentView&)> checks[] = {{"checkGreenTiles", checkGreenTiles},
-                                                                   {"checkBlueTiles", checkBlueTiles},
-                                                                   {"checkGrayTiles", checkGrayTiles},
-                                                                   {"checkYellowTiles", checkYellowTiles}};
+  const std::pair<const char*, bool (*)(Board&)> checks[] = {{"checkGreenTiles", checkGreenTiles},
+                                                             {"checkBlueTiles", checkBlueTiles},
+                                                             {"checkGrayTiles", checkGrayTiles},
+                                                             {"checkYellowTiles", checkYellowTiles}};
   std::string failing;
   for (const auto& [name, check] : checks) {
     if (!check(board.view)) {
@@ -124,12 +124,13 @@ TEST(PerfectGame, EveryPlayedRowKeptTheCodeWithoutHelp) {
     view.activeRow = c.activeRow;
     view.smartModeCorrect.fill(true);
     if (c.badRow >= 0) (view.*c.mark)[static_cast<std::size_t>(c.badRow)] = true;
-    EXPECT_EQ(isPerfectGame(view), c.perfect) << c.activeRow << " " << c.badRow;
+    EXPECT_EQ(isPerfectGame(view, view.activeRow, view.gameRows), c.perfect)
+        << c.activeRow << " " << c.badRow;
   }
   ContentView unstarred;
   unstarred.activeRow = 2;
   unstarred.smartModeCorrect[0] = true;
-  EXPECT_FALSE(isPerfectGame(unstarred));
+  EXPECT_FALSE(isPerfectGame(unstarred, unstarred.activeRow, unstarred.gameRows));
 }
 
 }  // namespace

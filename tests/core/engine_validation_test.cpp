@@ -70,7 +70,7 @@ TEST_P(Validity, UsesTheListOfTheGameType) {
   board.source.files["5LetterWords"] = "CRANE a large wading bird\nSPOON\n";
   board.source.files["4SLetterWords"] = "AÑOS\nNIÑO\n";
   board.source.files["3DigitPrimes"] = "101\n 211 \n";
-  EXPECT_EQ(isValidGuess(board.view, board.lists, c.guess), c.valid) << c.type << " " << c.guess;
+  EXPECT_EQ(isValidGuess(board.view.gameType, board.lists, c.guess), c.valid) << c.type << " " << c.guess;
 }
 
 INSTANTIATE_TEST_SUITE_P(

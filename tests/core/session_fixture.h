@@ -68,10 +68,15 @@ class SessionTest : public ::testing::Test {
     session_.reset();
     return start();
   }
-  void setOption(bool ContentView::*field, bool value) {
-    session_->mutableView().*field = value;
-    session_->mutableView().updateSettings = true;
-    session_->applyOptions();
+  void setOption(bool Options::*field, bool value) {
+    Options options = session_->options();
+    options.*field = value;
+    session_->applyOptions(options);
+  }
+  void setGameType(const std::string& gameType) {
+    Options options = session_->options();
+    options.gameType = gameType;
+    session_->applyOptions(options);
   }
   void type(const std::string& text) {
     for (const auto& symbol : splitSymbols(text))

@@ -149,8 +149,7 @@ TEST_F(SessionGameTest, GreenButtonCopiesKnownLetters) {
 TEST_F(SessionGameTest, EquationRowsHoldTheEqualsSign) {
   start();
   setOption(&ContentView::prepopulate, false);
-  session_->mutableView().gameType = "M";
-  session_->applyOptions();
+  setGameType("M");
   EXPECT_EQ(row(0), "...=..");
   EXPECT_TRUE(session_->keyLive("-"));
   EXPECT_FALSE(session_->keyLive("X")) << "no operator in the first column";

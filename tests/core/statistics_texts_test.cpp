@@ -4,6 +4,7 @@
 
 #include "catalogue/catalogue.h"
 #include "session/content_view.h"
+#include "session/game_setup.h"
 
 namespace tessarine {
 namespace {
@@ -25,9 +26,9 @@ TEST_P(StatisticsFiguresTest, AveragesAndPercentages) {
     if (view.gamesCompleted < kLatestScores) view.latestTenScores[view.gamesCompleted] = score;
     view.gamesCompleted += 1;
   }
-  EXPECT_EQ(averageScoreText(view), GetParam().average);
-  EXPECT_EQ(latestTenAverageText(view), GetParam().latestTen);
-  EXPECT_EQ(winPercentageText(view), GetParam().winPercentage);
+  EXPECT_EQ(averageScoreText(view, view.statisticsScope()), GetParam().average);
+  EXPECT_EQ(latestTenAverageText(view, view.statisticsScope()), GetParam().latestTen);
+  EXPECT_EQ(winPercentageText(view, view.statisticsScope()), GetParam().winPercentage);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -50,11 +51,11 @@ TEST(StatisticsStreakTexts, LossAfterWins) {
   view.maxStreakStart = -3;
   view.maxStreakEnd = -2;
   const FixedClock clock({2024, 1, 10, 12, 0, 0});
-  EXPECT_EQ(currentStreakLength(view), 0);
-  EXPECT_EQ(currentStreakText(view, clock), "Last win January 8, 2024");
-  EXPECT_EQ(maxStreakLength(view), 2);
-  EXPECT_EQ(maxStreakText(view, clock), "January 7, 2024 - January 8, 2024");
-  EXPECT_EQ(latestScoreText(view, clock), "January 9, 2024 Picking up");
+  EXPECT_EQ(currentStreakLength(view, view.statisticsScope()), 0);
+  EXPECT_EQ(currentStreakText(view, view.statisticsScope(), clock), "Last win January 8, 2024");
+  EXPECT_EQ(maxStreakLength(view, view.statisticsScope()), 2);
+  EXPECT_EQ(maxStreakText(view, view.statisticsScope(), clock), "January 7, 2024 - January 8, 2024");
+  EXPECT_EQ(latestScoreText(view, view.statisticsScope(), clock), "January 9, 2024 Picking up");
 }
 
 }  // namespace

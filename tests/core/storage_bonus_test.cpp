@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "catalogue/clock.h"
+#include "session/bonus_check.h"
 #include "storage/bonus_record.h"
 #include "storage_test_support.h"
 
@@ -10,7 +12,7 @@ using testing_support::reopenedTexts;
 using testing_support::TempDir;
 using Texts = std::vector<std::string>;
 
-const std::string kInitial = ContentView::kChristmasMessage;
+const std::string kInitial = kChristmasMessage;
 
 // Christmas Day 2023, a session that has seen it, and its settings in place.
 struct ChristmasDay {

@@ -3,6 +3,8 @@
 #include <sstream>
 
 #include "catalogue/catalogue.h"
+#include "session/day_store.h"
+#include "session/game_setup.h"
 #include "storage/day_record.h"
 #include "storage_test_support.h"
 
@@ -31,8 +33,8 @@ TEST(DayRecord, MarkDigitsFollowTheOrderOfDecision) {
   view.smartModeError[2] = view.validGuessError[2] = true;
   view.validGuessError[3] = view.smartModeCorrect[3] = true;
   view.smartModeCorrect[4] = true;
-  const std::string off = buildDayRecord(view, 5, 0, false);
-  const std::string on = buildDayRecord(view, 5, 0, true);
+  const std::string off = dayRecordOf(view, 5, 0, false);
+  const std::string on = dayRecordOf(view, 5, 0, true);
   ASSERT_EQ(off.size(), 62u);
   EXPECT_EQ(off.substr(56), "752410");
   EXPECT_EQ(on.substr(56), "763410");
@@ -96,7 +98,7 @@ TEST(DayRecord, ReadsBackFromDiskCountingCharactersNotBytes) {
     CoreDataManager coreDM(dir.path());
     ContentView view = viewOf("Ñ", {"Ñ", "A", "N", "D", "U", "Ñ", "O", "S", "   ", "Ñ"});
     view.smartModeError[1] = true;
-    coreDM.saveEntry(buildDayRecord(view, 700, 0, true));
+    coreDM.saveEntry(dayRecordOf(view, 700, 0, true));
   }
   CoreDataManager reopened(dir.path());
   std::ostringstream log;

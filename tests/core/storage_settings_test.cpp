@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "session/settings_load.h"
 #include "storage/settings_record.h"
 #include "storage_test_support.h"
 

@@ -28,7 +28,7 @@ int valid(const Args& args) {
   const auto& words = needArgs(args, 2, "valid needs TYPE GUESS");
   if (words.size() != 2) throw UsageError{"valid takes exactly TYPE GUESS"};
   EngineBoard board(args, words[0], "");
-  std::cout << (isValidGuess(board.view(), board.lists(), words[1]) ? "valid" : "invalid") << "\n";
+  std::cout << (isValidGuess(board.gameType(), board.lists(), words[1]) ? "valid" : "invalid") << "\n";
   return 0;
 }
 
@@ -39,11 +39,11 @@ int smart(const Args& args) {
   for (int row = 0; row < entered; ++row)
     board.playRow(row, words[static_cast<std::size_t>(row) + 2]);
   board.enterRow(entered, words.back());
-  ContentView& view = board.view();
-  const std::pair<const char*, bool (*)(ContentView&)> checks[] = {{"checkGreenTiles", checkGreenTiles},
-                                                                   {"checkBlueTiles", checkBlueTiles},
-                                                                   {"checkGrayTiles", checkGrayTiles},
-                                                                   {"checkYellowTiles", checkYellowTiles}};
+  Board& view = board.board();
+  const std::pair<const char*, bool (*)(Board&)> checks[] = {{"checkGreenTiles", checkGreenTiles},
+                                                             {"checkBlueTiles", checkBlueTiles},
+                                                             {"checkGrayTiles", checkGrayTiles},
+                                                             {"checkYellowTiles", checkYellowTiles}};
   const char* failed = nullptr;
   for (const auto& [name, check] : checks) {
     if (!check(view)) {
@@ -61,11 +61,10 @@ int hints(const Args& args) {
   EngineBoard board(args, words[0], words[1]);
   for (std::size_t i = 2; i < words.size(); ++i)
     board.playRow(static_cast<int>(i) - 2, words[i]);
-  ContentView& view = board.view();
-  updateKnowledge(view);
-  computeHints(view, board.lists());
-  std::cout << view.numberOfHints << "\n";
-  for (const std::string& hint : view.allHints)
+  updateKnowledge(board.board(), board.keypad(), board.knowledge());
+  computeHints(board.hints(), board.knowledge(), board.board(), board.lists(), board.gameType(), 0);
+  std::cout << board.hints().numberOfHints << "\n";
+  for (const std::string& hint : board.hints().allHints)
     std::cout << hint << "\n";
   return 0;
 }

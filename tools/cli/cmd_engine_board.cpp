@@ -13,48 +13,49 @@ EngineBoard::EngineBoard(const Args& args, const std::string& type, const std::s
   }
   source_ = std::make_unique<AnswerSource>(listSourceFor(args), std::string(info->answerFile), answer);
   lists_ = std::make_unique<Lists>(*source_);
-  view_.gameType = type;
-  applyCatalogue(view_);
-  view_.latestDateIndex = 0;
-  view_.activeDate = 0;
+  gameType_ = type;
+  keypad_.applyLayout(keypadLayout(info));
+  board_.typeOfGame = std::string(info->typeOfGame);
+  board_.gameLetters = info->tiles;
+  board_.gameRows = info->rows;
+  board_.answer = Answer(lists_->answer(type, 0));
   if (!answer.empty()) requireRowLength(answer);
 }
 
 void EngineBoard::requireRowLength(const std::string& guess) const {
-  if (static_cast<int>(symbolCount(guess)) != view_.gameLetters) {
-    throw UsageError{"'" + guess + "' must have " + std::to_string(view_.gameLetters) + " symbols"};
+  if (static_cast<int>(symbolCount(guess)) != board_.gameLetters) {
+    throw UsageError{"'" + guess + "' must have " + std::to_string(board_.gameLetters) + " symbols"};
   }
 }
 
 void EngineBoard::enterRow(int row, const std::string& guess) {
-  if (row * view_.gameLetters + view_.gameLetters > kMaximumCells || row >= view_.gameRows) {
+  if (row * board_.gameLetters + board_.gameLetters > board_.maximumCells || row >= board_.gameRows) {
     throw UsageError{"more guesses than the board has rows"};
   }
   requireRowLength(guess);
-  view_.activeRow = row;
+  board_.activeRow = row;
   const auto symbols = splitSymbols(guess);
-  for (int c = 0; c < view_.gameLetters; ++c) {
-    view_.cellLetter[static_cast<std::size_t>(cellIndex(view_, row, c))] =
+  for (int c = 0; c < board_.gameLetters; ++c) {
+    board_.cellLetter[static_cast<std::size_t>(cellIndex(board_, row, c))] =
         symbols[static_cast<std::size_t>(c)];
   }
-  view_.activeWord = guess;
 }
 
 void EngineBoard::playRow(int row, const std::string& guess) {
   enterRow(row, guess);
-  if (isWin(view_, *lists_, guess)) {
-    fillRow(view_, *lists_, TileColor::green);
+  if (isWin(board_, guess)) {
+    fillRow(board_, TileColor::green);
   } else {
-    scoreGuess(view_, *lists_, guess);
+    scoreGuess(board_, guess);
   }
 }
 
 std::string EngineBoard::rowColors() const {
   std::string text;
-  for (int c = 0; c < view_.gameLetters; ++c) {
+  for (int c = 0; c < board_.gameLetters; ++c) {
     if (c > 0) text += ' ';
-    text +=
-        tileColorName(view_.cellBackground[static_cast<std::size_t>(cellIndex(view_, view_.activeRow, c))]);
+    text += tileColorName(
+        board_.cellBackground[static_cast<std::size_t>(cellIndex(board_, board_.activeRow, c))]);
   }
   return text;
 }

@@ -8,7 +8,10 @@
 
 #include "catalogue/lists.h"
 #include "cli/command.h"
-#include "session/content_view.h"
+#include "engine/board.h"
+#include "engine/hints.h"
+#include "engine/keypad.h"
+#include "engine/knowledge.h"
 
 namespace tessarine::cli {
 
@@ -29,9 +32,15 @@ class AnswerSource : public ListSource {
 
 class EngineBoard {
  public:
+  static constexpr int kBoardCells = 56;  // as the main screen's board
+
   // TYPE and ANSWER from the command line; ANSWER may be empty when the command needs none.
   EngineBoard(const Args& args, const std::string& type, const std::string& answer);
-  ContentView& view() { return view_; }
+  const std::string& gameType() const { return gameType_; }
+  Board& board() { return board_; }
+  Keypad& keypad() { return keypad_; }
+  Knowledge& knowledge() { return knowledge_; }
+  HintState& hints() { return hints_; }
   const Lists& lists() const { return *lists_; }
 
   // Checks that `guess` fills a row exactly.
@@ -46,7 +55,11 @@ class EngineBoard {
  private:
   std::unique_ptr<ListSource> source_;
   std::unique_ptr<Lists> lists_;
-  ContentView view_;
+  std::string gameType_;
+  Board board_{kBoardCells};
+  Keypad keypad_;
+  Knowledge knowledge_;
+  HintState hints_;
 };
 
 }  // namespace tessarine::cli

@@ -15,7 +15,6 @@
 #include "catalogue/fatal_error.h"
 #include "cli/command.h"
 #include "engine/equation.h"
-#include "session/content_view.h"
 
 namespace tessarine::cli {
 namespace {
@@ -43,17 +42,13 @@ struct Keys {
 };
 
 Keys keysOf(const GameTypeInfo& info) {
-  ContentView view;
-  view.gameType = std::string(info.gameType);
-  applyCatalogue(view);
+  const KeypadLayout layout = keypadLayout(&info);
   Keys keys;
-  for (int k = 0; k < view.keypadNumber; ++k)
-    keys.symbols.insert(view.keypadLetters[static_cast<std::size_t>(k)]);
-  if (info.kind == GameKind::equations) keys.symbols.insert("=");
-  keys.plus = !view.disablePlusKey;
-  keys.minus = !view.disableMinusKey;
-  keys.times = !view.disableMultiplyKey;
-  keys.divide = !view.disableDivideKey;
+  for (int k = 0; k < layout.number; ++k)
+    keys.symbols.insert(std::string(layout.letters[static_cast<std::size_t>(k)]));
+  if (info.isEquation()) keys.symbols.insert("=");
+  keys.plus = keys.minus = info.operators != OperatorSet::multiplyDivide;
+  keys.times = keys.divide = info.operators != OperatorSet::addSubtract;
   return keys;
 }
 

@@ -34,20 +34,6 @@ std::optional<LocalDateTime> parseClock(const std::string& text) {
   return LocalDateTime{date->year, date->month, date->day, hour, minute, 0};
 }
 
-bool* optionField(ContentView& view, const std::string& name) {
-  const std::map<std::string, bool ContentView::*> options = {
-      {"smartMode", &ContentView::smartMode},
-      {"prepopulate", &ContentView::prepopulate},
-      {"EnglishWords", &ContentView::EnglishWords},
-      {"EnglishTranslation", &ContentView::EnglishTranslation},
-      {"showDefinitions", &ContentView::showDefinitions},
-      {"wantHints", &ContentView::wantHints},
-      {"showStarStatus", &ContentView::showStarStatus},
-      {"useQWERTY", &ContentView::useQWERTY}};
-  const auto found = options.find(name);
-  return found == options.end() ? nullptr : &(view.*(found->second));
-}
-
 class Runner {
  public:
   Runner(const Args& args)
@@ -69,16 +55,18 @@ class Runner {
     Session& s = *session_;
     if (verb == "type") {
       if (findGameType(argument) == nullptr) throw CommandError{"unknown game type '" + argument + "'"};
-      s.mutableView().gameType = argument;
-      apply();
+      Options options = s.options();
+      options.gameType = argument;
+      s.applyOptions(options);
     } else if (verb == "option") {
       std::istringstream parts(argument);
       std::string name, value;
       parts >> name >> value;
-      bool* field = optionField(s.mutableView(), name);
-      if (field == nullptr || (value != "Y" && value != "N")) throw CommandError{"usage: option NAME Y|N"};
-      *field = value == "Y";
-      apply();
+      const OptionInfo* option = findOption(name);
+      if (option == nullptr || (value != "Y" && value != "N")) throw CommandError{"usage: option NAME Y|N"};
+      Options options = s.options();
+      options.*option->field = value == "Y";
+      s.applyOptions(options);
     } else if (verb == "restart") {
       restart();
     } else if (verb == "phase") {
@@ -149,11 +137,6 @@ class Runner {
     session_.reset();  // the stores close before they open again, as on a relaunch
     session_ = std::make_unique<Session>(directory_, lists_, clock_, random_);
     session_->launch();
-  }
-
-  void apply() {
-    session_->mutableView().updateSettings = true;
-    session_->applyOptions();
   }
 
   void keys(const std::string& text) {

@@ -1,0 +1,2 @@
+// Compiled against the engine layer only: this include must fail.
+#include "session/content_view.h"

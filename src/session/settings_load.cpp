@@ -1,0 +1,73 @@
+#include "session/settings_load.h"
+
+#include <iostream>
+
+#include "catalogue/calendar.h"
+#include "catalogue/lists.h"
+#include "storage/record_text.h"
+#include "storage/settings_record.h"
+
+namespace tessarine {
+namespace {
+
+// First run, or a store that lost a record: start again from two fresh records.
+void createSettings(ContentView& view, SettingsDataManager& settingDM, CoreDataManager& coreDM,
+                    const Clock& clock) {
+  if (view.settingEntries.size() == 1) settingDM.deleteEntry(view.settingEntries.front());
+  view.cellEntries = coreDM.getAllEntries();
+  std::string minimumDay = "0000";
+  if (view.cellEntries.empty()) {
+    // A new player gets the last fifteen days; one with day records keeps them all open.
+    const int days = daysFromApril1st(clock);
+    view.minimumDayIndex = days < 15 ? 0 : days - 15;
+    minimumDay = paddedDayIndex(view.minimumDayIndex);
+    if (view.noMinimumDay && minimumDay != view.newMinimumDayValue) minimumDay = view.newMinimumDayValue;
+  } else {
+    view.minimumDayIndex = 0;
+  }
+  settingDM.saveEntry(minimumDay);
+  // `gameType` is still "Ó" here and is stored so until the options are next saved.
+  settingDM.saveEntry(optionsRecord(view));
+  view.settingEntries = settingDM.getAllEntries();
+}
+
+void readSettings(ContentView& view, SettingsDataManager& settingDM) {
+  const std::vector<Entry>& entries = view.settingEntries;
+  view.minimumDayIndex = parseIntOr(trimView(entries[0].text), 0);
+  if (view.noMinimumDay && entries[0].text != view.newMinimumDayValue) {
+    view.minimumDayIndex = parseIntOr(view.newMinimumDayValue, 0);
+    settingDM.updateEntry(entries[0], view.newMinimumDayValue);
+  }
+  const bool twoRecords = entries.size() == 2;
+  const Entry& optionsEntry = entries[twoRecords ? 1 : 2];
+  std::string options(trimView(optionsEntry.text));
+  if (options.empty()) options = view.gameType.empty() ? std::string("Ó") : view.gameType;
+  const std::string full = lengthenedOptions(options);
+  view.options() = parseOptionsRecord(full);
+  if (twoRecords && full != options) settingDM.updateEntry(optionsEntry, full);
+  if (!twoRecords) settingDM.deleteEntry(entries[1]);
+  view.settingEntries = settingDM.getAllEntries();
+}
+
+}  // namespace
+
+void loadSettings(ContentView& view, SettingsDataManager& settingDM, CoreDataManager& coreDM,
+                  const Clock& clock) {
+  view.settingEntries = settingDM.getAllEntries();
+  if (view.settingEntries.size() < 2) {
+    createSettings(view, settingDM, coreDM, clock);
+  } else {
+    readSettings(view, settingDM);
+  }
+  if (view.gameType == "Ó") view.gameType = "C";
+}
+
+void saveOptions(const ContentView& view, SettingsDataManager& settingDM) {
+  if (view.settingEntries.size() < 2) {
+    std::cout << "Failed to save context the settings records are not loaded" << std::endl;
+    return;
+  }
+  settingDM.updateEntry(view.settingEntries[1], optionsRecord(view));
+}
+
+}  // namespace tessarine
