@@ -8,7 +8,7 @@ packages=(
   qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
   qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qtqml-workerscript
   qml6-module-qttest qml6-module-qtquick-shapes
-  fonts-noto-color-emoji fonts-material-design-icons-iconfont
+  fonts-noto-color-emoji
 )
 missing=()
 for p in "${packages[@]}"; do
