@@ -25,13 +25,17 @@ int main(int argc, char* argv[]) {
   QGuiApplication app(argc, argv);
   QQmlApplicationEngine engine;
   engine.loadData("import QtQuick\nWindow { width: 390; height: 844; visible: true; color: \"white\" }");
-  auto* window = engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects()[0]);
+  auto* window =
+      engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects()[0]);
   if (window == nullptr) return 1;
-  QObject::connect(window, &QQuickWindow::frameSwapped, &app, [] {
-    std::printf("first-frame-epoch-ms %lld\nresident-kB %ld\n", QDateTime::currentMSecsSinceEpoch(),
-                residentKilobytes());
-    std::fflush(stdout);
-    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
-  }, Qt::SingleShotConnection);
+  QObject::connect(
+      window, &QQuickWindow::frameSwapped, &app,
+      [] {
+        std::printf("first-frame-epoch-ms %lld\nresident-kB %ld\n", QDateTime::currentMSecsSinceEpoch(),
+                    residentKilobytes());
+        std::fflush(stdout);
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+      },
+      Qt::SingleShotConnection);
   return QGuiApplication::exec();
 }
