@@ -1,8 +1,10 @@
+#include <QFile>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQmlContext>
 #include <QQuickStyle>
 #include <QQuickWindow>
+#include <cstdio>
 #include <memory>
 
 #include "app_environment.h"
@@ -14,11 +16,21 @@
 #include "screenshot.h"
 #include "session/session.h"
 
+namespace {
+
+int failStart(const char* why) {
+  std::fprintf(stderr, "Fatal error: Tessarine cannot start: %s.\n", why);
+  return 1;
+}
+
+}  // namespace
+
 // Builds the services, hands them to the session, and puts the bridge in front of the QML.
 int main(int argc, char* argv[]) {
   QGuiApplication app(argc, argv);
   QGuiApplication::setOrganizationName("Tessarine");
   QGuiApplication::setApplicationName("Tessarine");
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.tessarine.Tessarine"));
   QQuickStyle::setStyle("Basic");
 
   const AppEnvironment environment = readAppEnvironment();
@@ -44,9 +56,12 @@ int main(int argc, char* argv[]) {
                    &GameBridge::onApplicationStateChanged);
 
   QQmlApplicationEngine engine;
+  // The QML module is built into the binary: look for it there, never beside the build tree.
+  engine.addImportPath(QStringLiteral("qrc:/"));
+  if (!QFile::exists(QStringLiteral(":/Tessarine/qmldir"))) return failStart("its QML module is missing");
   engine.rootContext()->setContextProperty(QStringLiteral("game"), &bridge);
   engine.load(QUrl(QStringLiteral("qrc:/Tessarine/qml/Main.qml")));
-  if (engine.rootObjects().isEmpty()) return 1;
+  if (engine.rootObjects().isEmpty()) return failStart("its screens did not load (the lines above say why)");
   if (auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst())) {
     runScriptedSession(*window, bridge);
   }

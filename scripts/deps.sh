@@ -2,13 +2,13 @@
 # Installs the Debian 12 packages that building, running and testing Tessarine need, if any is missing.
 set -euo pipefail
 packages=(
-  cmake ninja-build g++ pkg-config sqlite3
+  cmake ninja-build g++ pkg-config sqlite3 dpkg-dev file desktop-file-utils appstream
   libsqlite3-dev libgtest-dev libgmock-dev libbenchmark-dev
   qt6-base-dev qt6-declarative-dev qt6-tools-dev
   qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
   qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qtqml-workerscript
   qml6-module-qttest qml6-module-qtquick-shapes
-  fonts-noto-color-emoji fonts-material-design-icons-iconfont
+  fonts-noto-color-emoji
 )
 missing=()
 for p in "${packages[@]}"; do

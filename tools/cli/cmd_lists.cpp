@@ -352,7 +352,7 @@ int check(const Args& args) {
   checker.translationFile("W", "4LetterTranslation", 4);
   checker.translationFile("X", "5LetterTranslation", 5);
   checker.operatorsAcrossAllTypes();
-  checker.folderSize(args.option("resources").value_or(TESSARINE_RESOURCES_DIR));
+  checker.folderSize(resourcesFolder(args));
   const auto& found = checker.problems().found;
   if (found.empty()) {
     std::cout << "lists check: every rule holds\n";

@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <ctime>
+#include <filesystem>
 
 #include "catalogue/calendar.h"
 
@@ -18,6 +19,17 @@ class SystemClock : public Clock {
     return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
   }
 };
+
+// An installed CLI reads the lists installed beside it; one run from the build tree reads the source's.
+std::string defaultResources() {
+  std::error_code error;
+  const auto self = std::filesystem::read_symlink("/proc/self/exe", error);
+  if (!error) {
+    const auto installed = self.parent_path() / TESSARINE_LISTS_FROM_BINDIR;
+    if (std::filesystem::is_directory(installed, error)) return installed.lexically_normal().string();
+  }
+  return TESSARINE_RESOURCES_DIR;
+}
 
 }  // namespace
 
@@ -41,8 +53,12 @@ std::unique_ptr<Clock> clockFor(const Args& args) {
   return std::make_unique<FixedClock>(LocalDateTime{date->year, date->month, date->day, 12, 0, 0});
 }
 
+std::string resourcesFolder(const Args& args) {
+  return args.option("resources").value_or(defaultResources());
+}
+
 std::unique_ptr<ListSource> listSourceFor(const Args& args) {
-  return std::make_unique<DirectoryListSource>(args.option("resources").value_or(TESSARINE_RESOURCES_DIR));
+  return std::make_unique<DirectoryListSource>(resourcesFolder(args));
 }
 
 int parseInt(std::string_view text, std::string_view what) {

@@ -47,6 +47,7 @@ struct Registrar {
 // Shared pieces of the commands.
 std::unique_ptr<Clock> clockFor(const Args& args);            // --today YYYY-MM-DD, else the system clock
 std::unique_ptr<ListSource> listSourceFor(const Args& args);  // --resources DIR
+std::string resourcesFolder(const Args& args);                // --resources DIR, else the default
 int parseInt(std::string_view text, std::string_view what);
 
 }  // namespace tessarine::cli

@@ -1,0 +1,60 @@
+#!/usr/bin/env bash
+# First frame and resident memory of the installed app next to an empty Qt Quick window of the same
+# size, both headless, measured in the same run and interleaved so that a busy machine weighs on both.
+#
+#   scripts/measure-start.sh [--runs N] [--app PATH] [--build DIR]
+#
+# Without --app the build is installed (stripped) into a temporary prefix and that copy is timed, from
+# a working folder outside the tree, with a fresh HOME and empty stores each run.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+runs=10 app="" build=build/release
+while (($#)); do
+  case "$1" in
+    --runs) runs="$2"; shift 2 ;;
+    --app) app="$2"; shift 2 ;;
+    --build) build="$2"; shift 2 ;;
+    *) echo "usage: $0 [--runs N] [--app PATH] [--build DIR]" >&2; exit 2 ;;
+  esac
+done
+bare="$PWD/$build/bench/bare_window/tessarine_bare_window"
+[ -x "$bare" ] || cmake --build "$build" --target tessarine_bare_window >/dev/null
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+if [ -z "$app" ]; then
+  cmake --install "$build" --prefix "$work/prefix" --strip >/dev/null
+  app="$work/prefix/bin/tessarine"
+fi
+
+# One run: prints "first-frame-ms resident-kB cpu-ms" from the program's own first-frame line and the
+# user plus system time that bash counts for it.
+run_once() {
+  local home="$work/home" start out cpu TIMEFORMAT='%3U %3S'
+  rm -rf "$home" && mkdir -m 700 -p "$home"
+  start=$(date +%s%3N)
+  { time out=$(cd "$work" && env -u XDG_DATA_HOME -u XDG_CONFIG_HOME HOME="$home" QT_QPA_PLATFORM=offscreen \
+    XDG_RUNTIME_DIR="$home" TESSARINE_FIRST_FRAME=1 timeout 60 "$1" 2>/dev/null); } 2>"$work/time"
+  cpu=$(awk '{printf "%d", ($1 + $2) * 1000}' "$work/time")
+  awk -v start="$start" -v cpu="$cpu" '/^first-frame-epoch-ms/ {ms = $2 - start} /^resident-kB/ {kb = $2}
+    END {if (ms == "") exit 1; print ms, kb, cpu}' <<<"$out"
+}
+
+# Median of a column of numbers.
+median() { sort -n | awk '{v[NR] = $1} END {print (NR % 2) ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2}'; }
+
+run_once "$bare" >/dev/null && run_once "$app" >/dev/null  # warm the file cache
+: >"$work/bare" && : >"$work/app"
+for _ in $(seq "$runs"); do
+  run_once "$bare" >>"$work/bare"
+  run_once "$app" >>"$work/app"
+done
+column() { cut -d' ' -f"$2" "$work/$1" | median; }
+report() {
+  printf '%-22s first frame %4s ms (best %s), CPU to exit %4s ms, resident %s MB\n' "$1" "$(column "$2" 1)" \
+    "$(cut -d' ' -f1 "$work/$2" | sort -n | head -1)" "$(column "$2" 3)" \
+    "$(column "$2" 2 | awk '{printf "%.1f", $1 / 1024}')"
+}
+echo "medians of $runs runs each"
+report "bare Qt Quick window" bare
+report "tessarine" app
+awk -v a="$(column app 1)" -v b="$(column bare 1)" 'BEGIN {printf "first frame, app / bare: %.2f\n", a / b}'
