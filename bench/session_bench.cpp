@@ -24,11 +24,11 @@ constexpr LocalDateTime kNow{2033, 6, 1, 12, 0, 0};
 
 // The played types and the rows of their records; the first is the shown type.
 constexpr std::pair<const char*, const char*> kTypes[] = {
-    {"C", "CRANESLATE"},   {"A", "CATDOGEEL"},   {"B", "TREESLAB"},     {"G", "101113"},    {"M", "9X4=362X8=16"},
-    {"D", "BRANCHSTOLEN"}, {"E", "ABSENCE"},     {"F", "ABSOLUTE"},     {"W", "CASA"},      {"X", "PERRO"},
-    {"2", "ABLE"},         {"3", "ABIDE"},       {"H", "123"},          {"I", "1009"},      {"J", "1234"},
-    {"K", "10007"},        {"L", "12345"},       {"N", "9+4=13"},       {"O", "9X4=36"},    {"S", "10+4=14"},
-    {"T", "10-4=06"},      {"U", "10X4=40"},     {"P", "10+40=50"},     {"Q", "10-40=30"}, {"R", "10X40=400"}};
+    {"C", "CRANESLATE"},   {"A", "CATDOGEEL"}, {"B", "TREESLAB"}, {"G", "101113"},   {"M", "9X4=362X8=16"},
+    {"D", "BRANCHSTOLEN"}, {"E", "ABSENCE"},   {"F", "ABSOLUTE"}, {"W", "CASA"},     {"X", "PERRO"},
+    {"2", "ABLE"},         {"3", "ABIDE"},     {"H", "123"},      {"I", "1009"},     {"J", "1234"},
+    {"K", "10007"},        {"L", "12345"},     {"N", "9+4=13"},   {"O", "9X4=36"},   {"S", "10+4=14"},
+    {"T", "10-4=06"},      {"U", "10X4=40"},   {"P", "10+40=50"}, {"Q", "10-40=30"}, {"R", "10X40=400"}};
 
 // Records a history of `types` game types over `days` days holds.
 struct HistorySize {

@@ -1,43 +1,52 @@
 #include "session/day_record_cache.h"
 
+#include <algorithm>
 #include <string>
 
 namespace tessarine {
 
 const std::vector<DayRecord>& DayRecordCache::records(const CoreDataManager& coreDM, std::ostream& log) {
-  if (!stale_) return records_;
-  const std::vector<Entry> entries = coreDM.getAllEntries();
-  // Both lists are in creation order, so one forward walk pairs each entry with its old parse.
-  // Records are compacted in place: after a submission only the new record is parsed and only
-  // the records behind a deleted one move.
-  std::vector<DayRecord> added;
-  std::vector<std::size_t> addedAt;
-  std::size_t kept = 0, old = 0;
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    const Entry& entry = entries[i];
-    while (old < records_.size() && records_[old].entry.id < entry.id)
-      ++old;
-    if (old < records_.size() && records_[old].entry.id == entry.id &&
-        records_[old].entry.text == entry.text) {
-      if (kept != old) records_[kept] = std::move(records_[old]);
-      ++kept;
-      ++old;
-      continue;
-    }
-    std::string problem;
-    if (auto record = parseDayRecord(entry, problem)) {
-      // A new record sits between kept ones only when ids were reused; it is placed after the walk.
-      added.push_back(std::move(*record));
-      addedAt.push_back(kept + added.size() - 1);
-    } else if (reported_.insert(entry.id).second) {
-      log << "Skipped day record " << i << ": " << problem << '\n';
-    }
+  if (stale_) {
+    fetch(coreDM, log);
+  } else {
+    applyPending(log);
   }
-  records_.resize(kept);
-  for (std::size_t k = 0; k < added.size(); ++k)
-    records_.insert(records_.begin() + addedAt[k], std::move(added[k]));
-  stale_ = false;
   return records_;
+}
+
+void DayRecordCache::add(const Entry& entry, std::size_t storeIndex, std::ostream& log) {
+  std::string problem;
+  if (auto record = parseDayRecord(entry, problem)) {
+    records_.push_back(std::move(*record));
+  } else if (unreadable_.insert(entry.id).second) {
+    log << "Skipped day record " << storeIndex << ": " << problem << '\n';
+  }
+}
+
+void DayRecordCache::fetch(const CoreDataManager& coreDM, std::ostream& log) {
+  const std::vector<Entry> entries = coreDM.getAllEntries();
+  records_.clear();
+  records_.reserve(entries.size());
+  for (std::size_t i = 0; i < entries.size(); ++i)
+    add(entries[i], i, log);
+  storeSize_ = entries.size();
+  pendingSaves_.clear();
+  pendingDeletes_.clear();
+  stale_ = false;
+}
+
+void DayRecordCache::applyPending(std::ostream& log) {
+  if (!pendingDeletes_.empty()) {
+    const auto gone = [this](const DayRecord& record) { return pendingDeletes_.contains(record.entry.id); };
+    records_.erase(std::remove_if(records_.begin(), records_.end(), gone), records_.end());
+    for (const std::int64_t id : pendingDeletes_)
+      unreadable_.erase(id);
+    storeSize_ -= std::min(storeSize_, pendingDeletes_.size());
+    pendingDeletes_.clear();
+  }
+  for (const Entry& entry : pendingSaves_)
+    add(entry, storeSize_++, log);
+  pendingSaves_.clear();
 }
 
 }  // namespace tessarine

@@ -9,20 +9,31 @@
 
 namespace tessarine {
 
-// The parsed day records, kept between refreshes. Records are never changed in place (a changed
-// day moves to a new record), so a record once parsed stays valid for its id: after a write only
-// the new ids are parsed, and without a write nothing is fetched at all.
+// The parsed day records, kept between refreshes and kept exact across the session's own writes:
+// a save or a delete that went through is applied to the copy at the next read, without a fetch,
+// and a write that failed changes neither the store nor the copy. Only a write that did not say
+// what it changed (`invalidate`) costs a fetch of the whole store.
 class DayRecordCache {
  public:
-  // The records in creation order, fetched again only when a write happened since the last call.
-  // Each unreadable record is named once on `log` and left in the store.
+  // The records in creation order. Each unreadable record is named once on `log` and left in the
+  // store.
   const std::vector<DayRecord>& records(const CoreDataManager& coreDM, std::ostream& log);
-  // Every write to the day store goes through the session, which calls this after it.
+
+  // A record the store saved; its id is above every id before it.
+  void saved(const Entry& entry) { pendingSaves_.push_back(entry); }
+  void deleted(std::int64_t id) { pendingDeletes_.insert(id); }
   void invalidate() { stale_ = true; }
 
  private:
+  void fetch(const CoreDataManager& coreDM, std::ostream& log);
+  void applyPending(std::ostream& log);
+  void add(const Entry& entry, std::size_t storeIndex, std::ostream& log);
+
   std::vector<DayRecord> records_;
-  std::unordered_set<std::int64_t> reported_;
+  std::size_t storeSize_ = 0;  // records in the store, readable or not
+  std::vector<Entry> pendingSaves_;
+  std::unordered_set<std::int64_t> pendingDeletes_;
+  std::unordered_set<std::int64_t> unreadable_;
   bool stale_ = true;
 };
 

@@ -11,11 +11,12 @@ std::string dayRecordOf(const ContentView& view, int dayIndex, int score, bool s
   return buildDayRecord(dayIndex, view.gameType, score, view.cellLetter, view, smartModeFlag);
 }
 
-void storeDay(ContentView& view, CoreDataManager& coreDM, const Clock& clock, int score, bool flag) {
+std::optional<Entry> storeDay(ContentView& view, CoreDataManager& coreDM, const Clock& clock, int score,
+                              bool flag) {
   if (score >= 1 && score <= kScoreSlots) view.scoreInt[score - 1] += 1;
   const int today = daysFromApril1st(clock) - 1;
   if (view.latestDateIndex != today && view.latestDateIndex >= 0) view.activeDate += view.latestDateIndex;
-  coreDM.saveEntry(dayRecordOf(view, std::max(0, today + view.activeDate), score, flag));
+  return coreDM.saveEntry(dayRecordOf(view, std::max(0, today + view.activeDate), score, flag));
 }
 
 }  // namespace tessarine

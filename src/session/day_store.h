@@ -1,6 +1,7 @@
 // Writing the shown day as a day record.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "catalogue/clock.h"
@@ -16,6 +17,8 @@ std::string dayRecordOf(const ContentView& view, int dayIndex, int score, bool s
 // to remove. A guess sent after midnight without a scene change moves `activeDate` by the whole
 // of `latestDateIndex`: that is how the game has always behaved, and the next scene change puts
 // the day right again.
-void storeDay(ContentView& view, CoreDataManager& coreDM, const Clock& clock, int score, bool flag);
+// Returns the saved record, or nothing when the store refused it.
+std::optional<Entry> storeDay(ContentView& view, CoreDataManager& coreDM, const Clock& clock, int score,
+                              bool flag);
 
 }  // namespace tessarine

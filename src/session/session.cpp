@@ -77,20 +77,21 @@ void Session::changePhase(ScenePhase phase) {
 }
 
 void Session::storeDay(int score, bool rejected) {
-  tessarine::storeDay(view_, stores_.coreDM, clock_, score, rejected);
-  records_.invalidate();
+  if (const auto saved = tessarine::storeDay(view_, stores_.coreDM, clock_, score, rejected))
+    records_.saved(*saved);
 }
 
 void Session::rewriteShownRecord(const DayRecord& record, int score) {
   // Delete and write in one step, so a failed write never loses the day.
   const int day = std::max(0, view_.latestDateIndex + view_.activeDate);
-  stores_.coreDM.replaceEntry(record.entry, dayRecordOf(view_, day, score, false));
-  records_.invalidate();
+  if (const auto saved = stores_.coreDM.replaceEntry(record.entry, dayRecordOf(view_, day, score, false))) {
+    records_.deleted(record.entry.id);
+    records_.saved(*saved);
+  }
 }
 
 void Session::deleteRecord(const DayRecord& record) {
-  stores_.coreDM.deleteEntry(record.entry);
-  records_.invalidate();
+  if (stores_.coreDM.deleteEntry(record.entry)) records_.deleted(record.entry.id);
 }
 
 void Session::dismissChristmasAlert() {

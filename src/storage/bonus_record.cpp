@@ -7,7 +7,7 @@ bool hasBonusRecord(const BonusDataManager& bonusDM) {
 }
 
 bool saveBonusRecord(BonusDataManager& bonusDM) {
-  return bonusDM.saveEntry(kBonusRecord);
+  return bonusDM.saveEntry(kBonusRecord).has_value();
 }
 
 }  // namespace tessarine

@@ -60,6 +60,18 @@ bool bindText(sqlite3_stmt* stmt, int index, const std::string& text) {
          SQLITE_OK;
 }
 
+// A new store is made in one commit: every commit costs the disk several flushes, and a first
+// start creates four stores.
+bool createSchema(sqlite3* db) {
+  const std::string statements =
+      "BEGIN; CREATE TABLE IF NOT EXISTS entries (id INTEGER PRIMARY KEY AUTOINCREMENT, text TEXT); "
+      "PRAGMA user_version=" +
+      std::to_string(kSchemaVersion) + "; COMMIT;";
+  if (exec(db, statements.c_str())) return true;
+  exec(db, "ROLLBACK");
+  return false;
+}
+
 }  // namespace
 
 DataManager::DataManager(const std::filesystem::path& directory, std::string storeName,
@@ -72,12 +84,8 @@ DataManager::DataManager(const std::filesystem::path& directory, std::string sto
   if (rc == SQLITE_OK) {
     // One table of one text attribute; rowid order is creation order, and an update keeps it.
     // An existing store is only read here: opening it writes nothing.
-    const bool ready = exec(db_, "PRAGMA synchronous=FULL") &&
-                       (schemaVersion(db_) == kSchemaVersion ||
-                        (exec(db_,
-                              "CREATE TABLE IF NOT EXISTS entries (id INTEGER PRIMARY KEY AUTOINCREMENT, "
-                              "text TEXT)") &&
-                         exec(db_, ("PRAGMA user_version=" + std::to_string(kSchemaVersion)).c_str())));
+    const bool ready =
+        exec(db_, "PRAGMA synchronous=FULL") && (schemaVersion(db_) == kSchemaVersion || createSchema(db_));
     if (!ready) rc = sqlite3_errcode(db_) == SQLITE_OK ? SQLITE_ERROR : sqlite3_errcode(db_);
   }
   if (rc != SQLITE_OK) {
@@ -107,9 +115,11 @@ std::vector<Entry> DataManager::getAllEntries() const {
   return entries;
 }
 
-bool DataManager::saveEntry(const std::string& text) {
-  return write(
-      db_, [&] { return insert(text); }, "Failed to save day ");
+std::optional<Entry> DataManager::saveEntry(const std::string& text) {
+  std::optional<Entry> saved;
+  const bool ok = write(
+      db_, [&] { return insert(text, saved); }, "Failed to save day ");
+  return ok ? saved : std::nullopt;
 }
 
 bool DataManager::updateEntry(const Entry& entry, const std::string& text) {
@@ -128,14 +138,18 @@ bool DataManager::deleteEntry(const Entry& entry) {
       db_, [&] { return remove(entry); }, "Failed to save context ");
 }
 
-bool DataManager::replaceEntry(const Entry& entry, const std::string& text) {
-  return write(
-      db_, [&] { return remove(entry) && insert(text); }, "Failed to save context ");
+std::optional<Entry> DataManager::replaceEntry(const Entry& entry, const std::string& text) {
+  std::optional<Entry> saved;
+  const bool ok = write(
+      db_, [&] { return remove(entry) && insert(text, saved); }, "Failed to save context ");
+  return ok ? saved : std::nullopt;
 }
 
-bool DataManager::insert(const std::string& text) {
-  return run(db_, "INSERT INTO entries (text) VALUES (?1)",
-             [&](sqlite3_stmt* s) { return bindText(s, 1, text); });
+bool DataManager::insert(const std::string& text, std::optional<Entry>& saved) {
+  const bool ok = run(db_, "INSERT INTO entries (text) VALUES (?1)",
+                      [&](sqlite3_stmt* s) { return bindText(s, 1, text); });
+  if (ok) saved = Entry{sqlite3_last_insert_rowid(db_), text};
+  return ok;
 }
 
 bool DataManager::remove(const Entry& entry) {

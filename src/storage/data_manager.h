@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,17 +27,18 @@ class DataManager {
   // A failed fetch is an empty list, as every caller treats it.
   std::vector<Entry> getAllEntries() const;
   // Failures print "Failed to save day " / "Failed to save context " and the error, and return false.
-  bool saveEntry(const std::string& text);
+  // A save returns the new record with its handle, so a caller can keep its copy exact.
+  std::optional<Entry> saveEntry(const std::string& text);
   bool updateEntry(const Entry& entry, const std::string& text);
   bool deleteEntry(const Entry& entry);
   // Deletes the record and saves `text` as a new last record in one transaction, so that a failure
   // half-way can never lose the record. Day records move this way, never in place.
-  bool replaceEntry(const Entry& entry, const std::string& text);
+  std::optional<Entry> replaceEntry(const Entry& entry, const std::string& text);
 
   const std::string& storeName() const { return storeName_; }
 
  private:
-  bool insert(const std::string& text);
+  bool insert(const std::string& text, std::optional<Entry>& saved);
   bool remove(const Entry& entry);
 
   std::string storeName_;

@@ -11,6 +11,7 @@
 namespace tessarine {
 namespace {
 
+using testing_support::OtherConnection;
 using testing_support::reopenedTexts;
 using testing_support::TempDir;
 using testing_support::texts;
@@ -32,14 +33,6 @@ TEST(Store, KeepsCreationOrderAndUpdatePositionAcrossReopen) {
   // Each manager has its own file: the others stay empty.
   EXPECT_TRUE(reopenedTexts<CoreDataManager>(dir.path()).empty());
 }
-
-// Another connection to the same file, to hold locks or plant a trigger.
-struct OtherConnection {
-  explicit OtherConnection(const std::filesystem::path& file) { sqlite3_open(file.c_str(), &db); }
-  ~OtherConnection() { sqlite3_close(db); }
-  bool exec(const char* sql) { return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK; }
-  sqlite3* db = nullptr;
-};
 
 struct FailureCase {
   const char* name;
@@ -73,11 +66,12 @@ const char* kRefuseBoom =
 INSTANTIATE_TEST_SUITE_P(
     Store, FailedWrite,
     testing::Values(FailureCase{"SaveWhileLocked", "BEGIN IMMEDIATE",
-                                [](auto& s) { return s.saveEntry("x"); }, "Failed to save day "},
+                                [](auto& s) { return s.saveEntry("x").has_value(); }, "Failed to save day "},
                     // The delete succeeds inside the transaction, the save fails: the delete must be undone.
-                    FailureCase{"ReplaceHalfDone", kRefuseBoom,
-                                [](auto& s) { return s.replaceEntry(s.getAllEntries()[0], "boom"); },
-                                "Failed to save context "}),
+                    FailureCase{
+                        "ReplaceHalfDone", kRefuseBoom,
+                        [](auto& s) { return s.replaceEntry(s.getAllEntries()[0], "boom").has_value(); },
+                        "Failed to save context "}),
     [](const auto& info) { return std::string(info.param.name); });
 
 // The message names the store; the bonus store has always used the settings text.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <sqlite3.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -46,5 +47,15 @@ std::vector<std::string> reopenedTexts(const std::filesystem::path& directory) {
   Manager manager(directory);
   return texts(manager);
 }
+
+// Another connection to the same file, to hold locks or plant a trigger.
+struct OtherConnection {
+  explicit OtherConnection(const std::filesystem::path& file) { sqlite3_open(file.c_str(), &db); }
+  ~OtherConnection() { sqlite3_close(db); }
+  OtherConnection(const OtherConnection&) = delete;
+  OtherConnection& operator=(const OtherConnection&) = delete;
+  bool exec(const char* sql) { return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK; }
+  sqlite3* db = nullptr;
+};
 
 }  // namespace tessarine::testing_support
