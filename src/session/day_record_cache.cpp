@@ -14,21 +14,22 @@ const std::vector<DayRecord>& DayRecordCache::records(const CoreDataManager& cor
   return records_;
 }
 
-void DayRecordCache::add(const Entry& entry, std::size_t storeIndex, std::ostream& log) {
+void DayRecordCache::add(Entry entry, std::size_t storeIndex, std::ostream& log) {
   std::string problem;
-  if (auto record = parseDayRecord(entry, problem)) {
+  const std::int64_t id = entry.id;
+  if (auto record = parseDayRecord(std::move(entry), problem)) {
     records_.push_back(std::move(*record));
-  } else if (unreadable_.insert(entry.id).second) {
+  } else if (unreadable_.insert(id).second) {
     log << "Skipped day record " << storeIndex << ": " << problem << '\n';
   }
 }
 
 void DayRecordCache::fetch(const CoreDataManager& coreDM, std::ostream& log) {
-  const std::vector<Entry> entries = coreDM.getAllEntries();
+  std::vector<Entry> entries = coreDM.getAllEntries();
   records_.clear();
   records_.reserve(entries.size());
   for (std::size_t i = 0; i < entries.size(); ++i)
-    add(entries[i], i, log);
+    add(std::move(entries[i]), i, log);
   storeSize_ = entries.size();
   pendingSaves_.clear();
   pendingDeletes_.clear();

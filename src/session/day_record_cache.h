@@ -27,7 +27,7 @@ class DayRecordCache {
  private:
   void fetch(const CoreDataManager& coreDM, std::ostream& log);
   void applyPending(std::ostream& log);
-  void add(const Entry& entry, std::size_t storeIndex, std::ostream& log);
+  void add(Entry entry, std::size_t storeIndex, std::ostream& log);
 
   std::vector<DayRecord> records_;
   std::size_t storeSize_ = 0;  // records in the store, readable or not

@@ -37,7 +37,7 @@ void SessionReplay::prepopulate(const DayRecord& source) {
 void SessionReplay::run(const ReplayScan& scan, const std::vector<DayRecord>& records) {
   ContentView& v = session_.view_;
   const DayRecord* shown = scan.lastMatch >= 0 ? &records[scan.lastMatch] : nullptr;
-  const std::vector<std::string> tiles = shown ? splitSymbols(shown->tileText) : std::vector<std::string>{};
+  const std::vector<std::string> tiles = shown ? splitSymbols(shown->tileText()) : std::vector<std::string>{};
   const int firstCell = shown ? shown->firstCell : 6;
   const int storedCells = static_cast<int>(tiles.size()) - firstCell;
 

@@ -60,6 +60,14 @@ bool bindText(sqlite3_stmt* stmt, int index, const std::string& text) {
          SQLITE_OK;
 }
 
+// The (id, text) row a statement stands on; a NULL text reads as empty.
+Entry rowEntry(sqlite3_stmt* statement) {
+  const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, 1));
+  const int bytes = sqlite3_column_bytes(statement, 1);
+  return {sqlite3_column_int64(statement, 0),
+          text != nullptr ? std::string(text, static_cast<std::size_t>(bytes)) : std::string()};
+}
+
 // A new store is made in one commit: every commit costs the disk several flushes, and a first
 // start creates four stores.
 bool createSchema(sqlite3* db) {
@@ -105,14 +113,16 @@ std::vector<Entry> DataManager::getAllEntries() const {
   Statement statement(db_, "SELECT id, text FROM entries ORDER BY id");
   if (!statement.ok()) return entries;
   int rc;
-  while ((rc = sqlite3_step(statement.get())) == SQLITE_ROW) {
-    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement.get(), 1));
-    const int bytes = sqlite3_column_bytes(statement.get(), 1);
-    entries.push_back({sqlite3_column_int64(statement.get(), 0),
-                       text != nullptr ? std::string(text, static_cast<std::size_t>(bytes)) : std::string()});
-  }
+  while ((rc = sqlite3_step(statement.get())) == SQLITE_ROW)
+    entries.push_back(rowEntry(statement.get()));
   if (rc != SQLITE_DONE) entries.clear();
   return entries;
+}
+
+std::optional<Entry> DataManager::firstEntry() const {
+  Statement statement(db_, "SELECT id, text FROM entries ORDER BY id LIMIT 1");
+  if (!statement.ok() || sqlite3_step(statement.get()) != SQLITE_ROW) return std::nullopt;
+  return rowEntry(statement.get());
 }
 
 std::optional<Entry> DataManager::saveEntry(const std::string& text) {

@@ -26,6 +26,8 @@ class DataManager {
 
   // A failed fetch is an empty list, as every caller treats it.
   std::vector<Entry> getAllEntries() const;
+  // The oldest record, without reading the others.
+  std::optional<Entry> firstEntry() const;
   // Failures print "Failed to save day " / "Failed to save context " and the error, and return false.
   // A save returns the new record with its handle, so a caller can keep its copy exact.
   std::optional<Entry> saveEntry(const std::string& text);

@@ -1,6 +1,7 @@
 #include "storage/day_record.h"
 
 #include <algorithm>
+#include <array>
 
 #include "catalogue/catalogue.h"
 #include "catalogue/lists.h"
@@ -15,26 +16,36 @@ bool isDigit(std::string_view symbol) {
 }
 
 // The characters of a UTF-8 text by position, as views into it: runs of characters are substrings.
+// Positions are kept for the first characters only, which is all a record has; a launch parses every
+// record, so this allocates nothing.
 class Characters {
  public:
+  static constexpr std::size_t kKept = 80;
+
   explicit Characters(std::string_view text) : text_(text) {
-    starts_.reserve(text.size() + 1);
     for (std::size_t i = 0; i < text.size(); ++i) {
-      if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80) starts_.push_back(i);
+      if ((static_cast<unsigned char>(text[i]) & 0xC0) == 0x80) continue;
+      if (count_ < kKept) starts_[count_] = i;
+      ++count_;
     }
-    starts_.push_back(text.size());
+    if (count_ < kKept) starts_[count_] = text.size();
   }
-  std::size_t size() const { return starts_.size() - 1; }
+  std::size_t size() const { return count_; }
   std::string_view at(std::size_t position) const { return run(position, 1); }
   std::string_view run(std::size_t from, std::size_t count) const {
-    from = std::min(from, size());
-    const std::size_t to = std::min(size(), from + count);
+    from = std::min(from, kept());
+    const std::size_t to = std::min(kept(), from + count);
     return text_.substr(starts_[from], starts_[to] - starts_[from]);
   }
+  std::size_t byteOffset(std::size_t position) const { return starts_[std::min(position, kept())]; }
 
  private:
+  // Runs end at the last kept position; a longer text is refused before any run is read.
+  std::size_t kept() const { return std::min(count_, kKept - 1); }
+
   std::string_view text_;
-  std::vector<std::size_t> starts_;
+  std::array<std::size_t, kKept> starts_{};
+  std::size_t count_ = 0;
 };
 
 // The record as one printable line: control and non-ASCII bytes are escaped.
@@ -114,7 +125,7 @@ std::string buildDayRecord(int dayIndex, std::string_view gameType, int score,
   return record;
 }
 
-std::optional<DayRecord> parseDayRecord(const Entry& entry, std::string& problem) {
+std::optional<DayRecord> parseDayRecord(Entry entry, std::string& problem) {
   if (!isValidUtf8(entry.text)) {
     problem = "not valid UTF-8";
     return std::nullopt;
@@ -160,14 +171,16 @@ std::optional<DayRecord> parseDayRecord(const Entry& entry, std::string& problem
     }
   }
   DayRecord record;
-  record.entry = entry;
   record.key = std::string(symbols.run(0, dayDigits + 1));
   record.dayIndex = parseIntOr(symbols.run(0, dayDigits), 0);
   record.gameType = symbols.at(dayDigits);
   record.score = score;
-  record.tileText = std::string(trimView(symbols.run(0, kTileTextLength + dayDigits - 4)));
+  const std::string_view tiles = trimView(symbols.run(0, kTileTextLength + dayDigits - 4));
+  record.tileBegin = static_cast<std::size_t>(tiles.data() - entry.text.data());
+  record.tileLength = tiles.size();
   record.marks = std::string(symbols.run(marksFrom, kMarkedRows));
   record.firstCell = static_cast<int>(dayDigits) + 2;
+  record.entry = std::move(entry);
   return record;
 }
 
@@ -194,15 +207,16 @@ std::string recordCharacter(const DayRecord& record, int position) {
 }
 
 std::vector<std::string> restoredCells(const DayRecord& record) {
-  std::vector<std::string> symbols = splitSymbols(record.tileText);
+  std::vector<std::string> symbols = splitSymbols(record.tileText());
   symbols.erase(symbols.begin(), symbols.begin() + std::min<std::size_t>(symbols.size(), record.firstCell));
   return symbols;
 }
 
 void padDayRecords(CoreDataManager& coreDM) {
+  // Only the first record decides, so a current store is not read whole twice at launch.
+  const std::optional<Entry> first = coreDM.firstEntry();
+  if (!first || symbolCount(first->text) >= static_cast<std::size_t>(kDayRecordLength)) return;
   const std::vector<Entry> entries = coreDM.getAllEntries();
-  if (entries.empty() || symbolCount(entries.front().text) >= static_cast<std::size_t>(kDayRecordLength))
-    return;
   for (const Entry& entry : entries) {
     const std::size_t length = symbolCount(entry.text);
     std::string padded = entry.text;

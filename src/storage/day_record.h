@@ -28,9 +28,14 @@ struct DayRecord {
   int dayIndex = 0;      // the leading digits
   std::string gameType;  // one character
   int score = 0;         // 0 unfinished, 1..gameRows won on that row, gameRows + 1 lost
-  std::string tileText;  // the first 53 characters (54 from day 10000), trimmed at both ends
   std::string marks;     // the last six characters, one per row; a blank is no mark
   int firstCell = 6;     // character position of cell 0 (7 for a five-digit day)
+  // Where the tile text lies in `entry.text`: kept as a range, since only the shown day's record
+  // is ever replayed and a launch reads every record.
+  std::size_t tileBegin = 0, tileLength = 0;
+
+  // The first 53 characters (54 from day 10000), trimmed at both ends.
+  std::string_view tileText() const { return std::string_view(entry.text).substr(tileBegin, tileLength); }
 };
 
 // The record of a day: `cells` are the board's first cells (an empty cell is "   "), of which the
@@ -39,7 +44,7 @@ std::string buildDayRecord(int dayIndex, std::string_view gameType, int score,
                            std::span<const std::string> cells, const RowMarkSet& marks, bool smartModeFlag);
 
 // nullopt with a one-line `problem` when the record cannot be read without guessing.
-std::optional<DayRecord> parseDayRecord(const Entry& entry, std::string& problem);
+std::optional<DayRecord> parseDayRecord(Entry entry, std::string& problem);
 
 // All readable day records in creation order. Each unreadable one is named in one line on `log`
 // and left in the store untouched.

@@ -110,7 +110,7 @@ TEST(DayRecord, ReadsBackFromDiskCountingCharactersNotBytes) {
   EXPECT_EQ(r.dayIndex, 700);
   EXPECT_EQ(r.gameType, "Ñ");
   EXPECT_EQ(r.score, 0);
-  EXPECT_EQ(r.tileText, "0700Ñ0ÑANDUÑOS Ñ");  // the blank inside is the empty cell
+  EXPECT_EQ(r.tileText(), "0700Ñ0ÑANDUÑOS Ñ");  // the blank inside is the empty cell
   EXPECT_EQ(r.marks, "030000");
   EXPECT_EQ(recordCharacter(r, r.firstCell + 5), "Ñ");
   EXPECT_EQ(restoredCells(r), (std::vector<std::string>{"Ñ", "A", "N", "D", "U", "Ñ", "O", "S", " ", "Ñ"}));
@@ -175,7 +175,7 @@ TEST(DayRecord, PaddingLengthensOldRecordsInPlaceOfOrder) {
   std::ostringstream log;
   const auto records = readDayRecords(coreDM, log);
   ASSERT_EQ(records.size(), 2u);
-  EXPECT_EQ(records[0].tileText, oldFirst);
+  EXPECT_EQ(records[0].tileText(), oldFirst);
   EXPECT_EQ(restoredCells(records[0]).size(), 5u);
   ContentView view;
   EXPECT_FALSE(restoreRowMarks(view, records[0].marks));
