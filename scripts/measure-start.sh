@@ -2,19 +2,23 @@
 # First frame and resident memory of the installed app next to an empty Qt Quick window of the same
 # size, both headless, measured in the same run and interleaved so that a busy machine weighs on both.
 #
-#   scripts/measure-start.sh [--runs N] [--app PATH] [--build DIR]
+#   scripts/measure-start.sh [--runs N] [--app PATH] [--build DIR] [--history 18000|100000]
+#
+# With --history the app starts over stores holding that many day records (scripts/make-history.sh),
+# copied afresh for each run, on the day after the history ends.
 #
 # Without --app the build is installed (stripped) into a temporary prefix and that copy is timed, from
 # a working folder outside the tree, with a fresh HOME and empty stores each run.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-runs=10 app="" build=build/release
+runs=10 app="" build=build/release history=""
 while (($#)); do
   case "$1" in
     --runs) runs="$2"; shift 2 ;;
     --app) app="$2"; shift 2 ;;
     --build) build="$2"; shift 2 ;;
-    *) echo "usage: $0 [--runs N] [--app PATH] [--build DIR]" >&2; exit 2 ;;
+    --history) history="$2"; shift 2 ;;
+    *) echo "usage: $0 [--runs N] [--app PATH] [--build DIR] [--history 18000|100000]" >&2; exit 2 ;;
   esac
 done
 bare="$PWD/$build/bench/bare_window/tessarine_bare_window"
@@ -25,15 +29,21 @@ if [ -z "$app" ]; then
   cmake --install "$build" --prefix "$work/prefix" --strip >/dev/null
   app="$work/prefix/bin/tessarine"
 fi
+stores=()
+if [ -n "$history" ]; then
+  scripts/make-history.sh "$work/history" "$history"
+  stores=(TESSARINE_DATA_DIR="$work/home/data" TESSARINE_TODAY=2033-06-01)
+fi
 
 # One run: prints "first-frame-ms resident-kB cpu-ms" from the program's own first-frame line and the
 # user plus system time that bash counts for it.
 run_once() {
   local home="$work/home" start out cpu TIMEFORMAT='%3U %3S'
   rm -rf "$home" && mkdir -m 700 -p "$home"
+  [ -n "$history" ] && cp -r "$work/history" "$home/data"
   start=$(date +%s%3N)
   { time out=$(cd "$work" && env -u XDG_DATA_HOME -u XDG_CONFIG_HOME HOME="$home" QT_QPA_PLATFORM=offscreen \
-    XDG_RUNTIME_DIR="$home" TESSARINE_FIRST_FRAME=1 timeout 60 "$1" 2>/dev/null); } 2>"$work/time"
+    XDG_RUNTIME_DIR="$home" TESSARINE_FIRST_FRAME=1 "${stores[@]}" timeout 60 "$1" 2>/dev/null); } 2>"$work/time"
   cpu=$(awk '{printf "%d", ($1 + $2) * 1000}' "$work/time")
   awk -v start="$start" -v cpu="$cpu" '/^first-frame-epoch-ms/ {ms = $2 - start} /^resident-kB/ {kb = $2}
     END {if (ms == "") exit 1; print ms, kb, cpu}' <<<"$out"

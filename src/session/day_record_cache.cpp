@@ -25,12 +25,11 @@ void DayRecordCache::add(Entry entry, std::size_t storeIndex, std::ostream& log)
 }
 
 void DayRecordCache::fetch(const CoreDataManager& coreDM, std::ostream& log) {
-  std::vector<Entry> entries = coreDM.getAllEntries();
   records_.clear();
-  records_.reserve(entries.size());
-  for (std::size_t i = 0; i < entries.size(); ++i)
-    add(std::move(entries[i]), i, log);
-  storeSize_ = entries.size();
+  records_.shrink_to_fit();
+  records_.reserve(coreDM.countEntries());
+  storeSize_ = 0;
+  coreDM.forEachEntry([&](Entry&& entry) { add(std::move(entry), storeSize_++, log); });
   pendingSaves_.clear();
   pendingDeletes_.clear();
   stale_ = false;

@@ -44,7 +44,7 @@ void SessionReplay::run(const ReplayScan& scan, const std::vector<DayRecord>& re
   if (storedCells < 1) {
     if (v.prepopulate && scan.prepopulateSource >= 0) prepopulate(records[scan.prepopulateSource]);
   } else {
-    const bool smartRecord = restoreRowMarks(v, shown->marks);
+    const bool smartRecord = restoreRowMarks(v, shown->marks());
     for (int cell = 0; cell < storedCells && cell < kMaximumCells; ++cell)
       v.cellLetter[cell] = tiles[firstCell + cell];
     const int rowsUsed = (storedCells + v.gameLetters - 1) / v.gameLetters;

@@ -110,13 +110,24 @@ DataManager::~DataManager() {
 
 std::vector<Entry> DataManager::getAllEntries() const {
   std::vector<Entry> entries;
+  if (!forEachEntry([&entries](Entry&& entry) { entries.push_back(std::move(entry)); })) entries.clear();
+  return entries;
+}
+
+bool DataManager::forEachEntry(const std::function<void(Entry&&)>& visit) const {
   Statement statement(db_, "SELECT id, text FROM entries ORDER BY id");
-  if (!statement.ok()) return entries;
+  if (!statement.ok()) return false;
   int rc;
   while ((rc = sqlite3_step(statement.get())) == SQLITE_ROW)
-    entries.push_back(rowEntry(statement.get()));
-  if (rc != SQLITE_DONE) entries.clear();
-  return entries;
+    visit(rowEntry(statement.get()));
+  return rc == SQLITE_DONE;
+}
+
+std::size_t DataManager::countEntries() const {
+  // The highest id bounds the count from above and, unlike count(*), costs no scan.
+  Statement statement(db_, "SELECT max(id) FROM entries");
+  if (!statement.ok() || sqlite3_step(statement.get()) != SQLITE_ROW) return 0;
+  return static_cast<std::size_t>(sqlite3_column_int64(statement.get(), 0));
 }
 
 std::optional<Entry> DataManager::firstEntry() const {

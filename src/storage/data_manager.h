@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -26,6 +27,11 @@ class DataManager {
 
   // A failed fetch is an empty list, as every caller treats it.
   std::vector<Entry> getAllEntries() const;
+  // Hands each record to `visit` in creation order without holding them all; false when the
+  // fetch failed part-way (what was visited is then not the whole store).
+  bool forEachEntry(const std::function<void(Entry&&)>& visit) const;
+  // At least how many records there are, so a reader can make room once (0 when it fails).
+  std::size_t countEntries() const;
   // The oldest record, without reading the others.
   std::optional<Entry> firstEntry() const;
   // Failures print "Failed to save day " / "Failed to save context " and the error, and return false.

@@ -171,14 +171,14 @@ std::optional<DayRecord> parseDayRecord(Entry entry, std::string& problem) {
     }
   }
   DayRecord record;
-  record.key = std::string(symbols.run(0, dayDigits + 1));
+  record.keyLength = static_cast<std::uint32_t>(symbols.byteOffset(dayDigits + 1));
   record.dayIndex = parseIntOr(symbols.run(0, dayDigits), 0);
   record.gameType = symbols.at(dayDigits);
   record.score = score;
   const std::string_view tiles = trimView(symbols.run(0, kTileTextLength + dayDigits - 4));
-  record.tileBegin = static_cast<std::size_t>(tiles.data() - entry.text.data());
-  record.tileLength = tiles.size();
-  record.marks = std::string(symbols.run(marksFrom, kMarkedRows));
+  record.tileBegin = static_cast<std::uint32_t>(tiles.data() - entry.text.data());
+  record.tileLength = static_cast<std::uint32_t>(tiles.size());
+  record.marksBegin = static_cast<std::uint32_t>(symbols.byteOffset(marksFrom));
   record.firstCell = static_cast<int>(dayDigits) + 2;
   record.entry = std::move(entry);
   return record;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -24,18 +25,20 @@ constexpr int kTileTextLength = 53;
 // A day record as the refresh reads it.
 struct DayRecord {
   Entry entry;           // the handle, to delete or replace the record
-  std::string key;       // day and game type: the first five characters (six from day 10000)
   int dayIndex = 0;      // the leading digits
   std::string gameType;  // one character
   int score = 0;         // 0 unfinished, 1..gameRows won on that row, gameRows + 1 lost
-  std::string marks;     // the last six characters, one per row; a blank is no mark
   int firstCell = 6;     // character position of cell 0 (7 for a five-digit day)
-  // Where the tile text lies in `entry.text`: kept as a range, since only the shown day's record
-  // is ever replayed and a launch reads every record.
-  std::size_t tileBegin = 0, tileLength = 0;
+  // Parts of `entry.text` kept as byte ranges: a launch reads every record, and only the shown
+  // day's record is ever replayed.
+  std::uint32_t keyLength = 0, tileBegin = 0, tileLength = 0, marksBegin = 0;
 
+  // Day and game type: the first five characters (six from day 10000).
+  std::string_view key() const { return std::string_view(entry.text).substr(0, keyLength); }
   // The first 53 characters (54 from day 10000), trimmed at both ends.
   std::string_view tileText() const { return std::string_view(entry.text).substr(tileBegin, tileLength); }
+  // The last six characters, one per row; a blank is no mark.
+  std::string_view marks() const { return std::string_view(entry.text).substr(marksBegin); }
 };
 
 // The record of a day: `cells` are the board's first cells (an empty cell is "   "), of which the

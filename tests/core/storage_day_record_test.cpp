@@ -106,16 +106,16 @@ TEST(DayRecord, ReadsBackFromDiskCountingCharactersNotBytes) {
   EXPECT_EQ(log.str(), "");
   ASSERT_EQ(records.size(), 1u);
   const DayRecord& r = records[0];
-  EXPECT_EQ(r.key, "0700Ñ");
+  EXPECT_EQ(r.key(), "0700Ñ");
   EXPECT_EQ(r.dayIndex, 700);
   EXPECT_EQ(r.gameType, "Ñ");
   EXPECT_EQ(r.score, 0);
   EXPECT_EQ(r.tileText(), "0700Ñ0ÑANDUÑOS Ñ");  // the blank inside is the empty cell
-  EXPECT_EQ(r.marks, "030000");
+  EXPECT_EQ(r.marks(), "030000");
   EXPECT_EQ(recordCharacter(r, r.firstCell + 5), "Ñ");
   EXPECT_EQ(restoredCells(r), (std::vector<std::string>{"Ñ", "A", "N", "D", "U", "Ñ", "O", "S", " ", "Ñ"}));
   ContentView view;
-  EXPECT_TRUE(restoreRowMarks(view, r.marks));
+  EXPECT_TRUE(restoreRowMarks(view, r.marks()));
   EXPECT_TRUE(view.smartModeError[1]);
 }
 
@@ -178,7 +178,7 @@ TEST(DayRecord, PaddingLengthensOldRecordsInPlaceOfOrder) {
   EXPECT_EQ(records[0].tileText(), oldFirst);
   EXPECT_EQ(restoredCells(records[0]).size(), 5u);
   ContentView view;
-  EXPECT_FALSE(restoreRowMarks(view, records[0].marks));
+  EXPECT_FALSE(restoreRowMarks(view, records[0].marks()));
   EXPECT_EQ(view.smartModeCorrect, RowMarks{});
 }
 
