@@ -1,6 +1,5 @@
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
-#include <QQmlContext>
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <memory>
@@ -9,12 +8,13 @@
 #include "catalogue/fatal_error.h"
 #include "catalogue/lists.h"
 #include "device_random.h"
-#include "game_bridge.h"
 #include "qt_resource_list_source.h"
 #include "screenshot.h"
 #include "session/session.h"
+#include "session_host.h"
 
-// Builds the services, hands them to the session, and puts the bridge in front of the QML.
+// Builds the services, hands them to the session, and gives the QML the session host as the window's initial
+// property.
 int main(int argc, char* argv[]) {
   QGuiApplication app(argc, argv);
   QGuiApplication::setOrganizationName("Tessarine");
@@ -26,29 +26,29 @@ int main(int argc, char* argv[]) {
   const tessarine::Lists lists(listSource);
   DeviceRandom random;
 
-  GameBridge bridge;
+  SessionHost host;
   std::unique_ptr<tessarine::Session> session;
   if (!environment.problem.isEmpty()) {
-    bridge.fail(environment.problem);
+    host.fail(environment.problem);
   } else {
     try {
       session =
           std::make_unique<tessarine::Session>(environment.dataDirectory, lists, *environment.clock, random);
-      bridge.attach(session.get());
+      host.attach(session.get());
     } catch (const tessarine::FatalError& error) {
-      bridge.fail(QString::fromStdString(error.what()));
+      host.fail(QString::fromStdString(error.what()));
     }
   }
-  bridge.launch();
-  QObject::connect(&app, &QGuiApplication::applicationStateChanged, &bridge,
-                   &GameBridge::onApplicationStateChanged);
+  host.launch();
+  QObject::connect(&app, &QGuiApplication::applicationStateChanged, &host,
+                   &SessionHost::onApplicationStateChanged);
 
   QQmlApplicationEngine engine;
-  engine.rootContext()->setContextProperty(QStringLiteral("game"), &bridge);
+  engine.setInitialProperties({{QStringLiteral("host"), QVariant::fromValue(&host)}});
   engine.load(QUrl(QStringLiteral("qrc:/Tessarine/qml/Main.qml")));
   if (engine.rootObjects().isEmpty()) return 1;
   if (auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst())) {
-    runScriptedSession(*window, bridge);
+    runScriptedSession(*window, host);
   }
   return QGuiApplication::exec();
 }
