@@ -1,7 +1,6 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
-#include <QQmlContext>
 #include <QQuickStyle>
 #include <QQuickWindow>
 #include <cstdio>
@@ -11,10 +10,10 @@
 #include "catalogue/fatal_error.h"
 #include "catalogue/lists.h"
 #include "device_random.h"
-#include "game_bridge.h"
 #include "qt_resource_list_source.h"
 #include "screenshot.h"
 #include "session/session.h"
+#include "session_host.h"
 
 namespace {
 
@@ -25,7 +24,8 @@ int failStart(const char* why) {
 
 }  // namespace
 
-// Builds the services, hands them to the session, and puts the bridge in front of the QML.
+// Builds the services, hands them to the session, and gives the QML the session host as the window's
+// initial property.
 int main(int argc, char* argv[]) {
   QGuiApplication app(argc, argv);
   QGuiApplication::setOrganizationName("Tessarine");
@@ -38,32 +38,32 @@ int main(int argc, char* argv[]) {
   const tessarine::Lists lists(listSource);
   DeviceRandom random;
 
-  GameBridge bridge;
+  SessionHost host;
   std::unique_ptr<tessarine::Session> session;
   if (!environment.problem.isEmpty()) {
-    bridge.fail(environment.problem);
+    host.fail(environment.problem);
   } else {
     try {
       session =
           std::make_unique<tessarine::Session>(environment.dataDirectory, lists, *environment.clock, random);
-      bridge.attach(session.get());
+      host.attach(session.get());
     } catch (const tessarine::FatalError& error) {
-      bridge.fail(QString::fromStdString(error.what()));
+      host.fail(QString::fromStdString(error.what()));
     }
   }
-  bridge.launch();
-  QObject::connect(&app, &QGuiApplication::applicationStateChanged, &bridge,
-                   &GameBridge::onApplicationStateChanged);
+  host.launch();
+  QObject::connect(&app, &QGuiApplication::applicationStateChanged, &host,
+                   &SessionHost::onApplicationStateChanged);
 
   QQmlApplicationEngine engine;
   // The QML module is built into the binary: look for it there, never beside the build tree.
   engine.addImportPath(QStringLiteral("qrc:/"));
   if (!QFile::exists(QStringLiteral(":/Tessarine/qmldir"))) return failStart("its QML module is missing");
-  engine.rootContext()->setContextProperty(QStringLiteral("game"), &bridge);
+  engine.setInitialProperties({{QStringLiteral("host"), QVariant::fromValue(&host)}});
   engine.load(QUrl(QStringLiteral("qrc:/Tessarine/qml/Main.qml")));
   if (engine.rootObjects().isEmpty()) return failStart("its screens did not load (the lines above say why)");
   if (auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst())) {
-    runScriptedSession(*window, bridge);
+    runScriptedSession(*window, host);
   }
   return QGuiApplication::exec();
 }

@@ -11,7 +11,7 @@
 #include <cstdio>
 #include <memory>
 
-#include "game_bridge.h"
+#include "session_host.h"
 
 namespace {
 
@@ -40,11 +40,11 @@ void pressKeys(QQuickWindow& window, const QString& keys) {
     press(symbol.toUpper().unicode(), QString(symbol));
 }
 
-void replay(QQuickWindow& window, GameBridge& bridge, const QString& script) {
+void replay(QQuickWindow& window, SessionHost& host, const QString& script) {
   for (const QString& step : script.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
     if (step.startsWith(QStringLiteral("keys:"))) {
       pressKeys(window, step.mid(5));
-    } else if (!applyScriptStep(bridge, step)) {
+    } else if (!applyScriptStep(host, step)) {
       std::fprintf(stderr, "Unknown script step: %s\n", qPrintable(step));
     }
   }
@@ -52,42 +52,42 @@ void replay(QQuickWindow& window, GameBridge& bridge, const QString& script) {
 
 }  // namespace
 
-bool applyScriptStep(GameBridge& bridge, const QString& step) {
-  using Action = void (*)(GameBridge&);
+bool applyScriptStep(SessionHost& host, const QString& step) {
+  using Action = void (*)(SessionHost&);
   static const QHash<QString, Action> buttons = {
-      {QStringLiteral("enter"), [](GameBridge& b) { b.submitGuess(); }},
-      {QStringLiteral("backspace"), [](GameBridge& b) { b.clearCell(); }},
-      {QStringLiteral("clearrow"), [](GameBridge& b) { b.clearRow(); }},
-      {QStringLiteral("green"), [](GameBridge& b) { b.moveCorrectLetters(); }},
-      {QStringLiteral("hint"), [](GameBridge& b) { b.pressHints(); }},
-      {QStringLiteral("confirm"), [](GameBridge& b) { b.confirmHint(); }},
-      {QStringLiteral("today"), [](GameBridge& b) { b.goToToday(); }},
-      {QStringLiteral("latest"), [](GameBridge& b) { b.goToLatestOpen(); }},
-      {QStringLiteral("dates"), [](GameBridge& b) { b.openDateList(); }},
-      {QStringLiteral("inactive"), [](GameBridge& b) { b.changePhase(tessarine::ScenePhase::inactive); }},
-      {QStringLiteral("active"), [](GameBridge& b) { b.changePhase(tessarine::ScenePhase::active); }},
+      {QStringLiteral("enter"), [](SessionHost& b) { b.mainScreen()->submitGuess(); }},
+      {QStringLiteral("backspace"), [](SessionHost& b) { b.mainScreen()->clearCell(); }},
+      {QStringLiteral("clearrow"), [](SessionHost& b) { b.mainScreen()->clearRow(); }},
+      {QStringLiteral("green"), [](SessionHost& b) { b.mainScreen()->moveCorrectLetters(); }},
+      {QStringLiteral("hint"), [](SessionHost& b) { b.mainScreen()->pressHints(); }},
+      {QStringLiteral("confirm"), [](SessionHost& b) { b.alerts()->confirmHint(); }},
+      {QStringLiteral("today"), [](SessionHost& b) { b.dateBar()->goToToday(); }},
+      {QStringLiteral("latest"), [](SessionHost& b) { b.dateBar()->goToLatestOpen(); }},
+      {QStringLiteral("dates"), [](SessionHost& b) { b.dateBar()->openDateList(); }},
+      {QStringLiteral("inactive"), [](SessionHost& b) { b.changePhase(tessarine::ScenePhase::inactive); }},
+      {QStringLiteral("active"), [](SessionHost& b) { b.changePhase(tessarine::ScenePhase::active); }},
   };
   const QString lower = step.toLower();
   if (const auto button = buttons.constFind(lower); button != buttons.constEnd()) {
-    button.value()(bridge);
+    button.value()(host);
   } else if (lower.startsWith(QStringLiteral("type:"))) {
-    bridge.chooseGameType(step.mid(5));
+    host.chooseGameType(step.mid(5));
   } else if (lower.startsWith(QStringLiteral("pick:"))) {
-    bridge.pickDate(step.mid(5).toInt());
+    host.dateBar()->pickDate(step.mid(5).toInt());
   } else {
     for (const QChar symbol : step) {
-      if (!bridge.typeText(QString(symbol))) return false;
+      if (!host.mainScreen()->typeText(QString(symbol))) return false;
     }
   }
   return true;
 }
 
-void runScriptedSession(QQuickWindow& window, GameBridge& bridge) {
+void runScriptedSession(QQuickWindow& window, SessionHost& host) {
   const QString shot = qEnvironmentVariable("TESSARINE_SCREENSHOT");
   const bool timing = qEnvironmentVariableIsSet("TESSARINE_FIRST_FRAME");
   if (shot.isEmpty() && !timing) return;
   auto once = std::make_shared<bool>(false);
-  QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&window, &bridge, shot, timing, once] {
+  QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&window, &host, shot, timing, once] {
     if (*once) return;
     *once = true;
     if (timing) {
@@ -99,7 +99,7 @@ void runScriptedSession(QQuickWindow& window, GameBridge& bridge) {
         return;
       }
     }
-    replay(window, bridge, qEnvironmentVariable("TESSARINE_SCRIPT"));
+    replay(window, host, qEnvironmentVariable("TESSARINE_SCRIPT"));
     // Let the bindings settle and a frame render before the grab.
     QTimer::singleShot(200, &window, [&window, shot] {
       const QImage image = window.grabWindow();

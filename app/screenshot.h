@@ -3,7 +3,7 @@
 #include <QString>
 
 class QQuickWindow;
-class GameBridge;
+class SessionHost;
 
 // Scripted runs for screenshots and start-up figures, driven by environment variables:
 // TESSARINE_SCRIPT   space-separated steps replayed after the first frame: letters, digits and
@@ -13,7 +13,7 @@ class GameBridge;
 //                    "keys:enter", "keys:backspace" are real key events sent through the window.
 // TESSARINE_SCREENSHOT  a PNG path: the window is grabbed after the script and the app quits.
 // TESSARINE_FIRST_FRAME  when set, prints the first frame's time and resident memory, then quits.
-void runScriptedSession(QQuickWindow& window, GameBridge& bridge);
+void runScriptedSession(QQuickWindow& window, SessionHost& host);
 
 // Applies one script step; false for a step it does not know.
-bool applyScriptStep(GameBridge& bridge, const QString& step);
+bool applyScriptStep(SessionHost& host, const QString& step);

@@ -1,46 +1,42 @@
+pragma ComponentBehavior: Bound
 import QtQuick
+import Tessarine
 
-// The rows of tiles, each with the family mark ahead of it and the row mark after it.
-Column {
+// The rows of tiles, with the family mark ahead of each row and the row mark after it. Any board
+// draws through this: it gives the tiles, their size, and the marks if it has any.
+Row {
     id: board
+    required property TileListModel model
+    required property real cellWidth
+    property var familyMarks: []
+    property var rowMarks: []
+    property var rowMarkColors: []
+    signal cellTouched(int index)
     spacing: 4
 
-    Repeater {
-        model: game.gameRows
-        delegate: Row {
-            id: boardRow
-            required property int index
-            spacing: 4
+    RowMarks {
+        rows: board.model.gridRows
+        cellWidth: board.cellWidth
+        symbols: board.familyMarks
+    }
+    Grid {
+        columns: Math.max(board.model.gridColumns, 1)
+        spacing: 4
 
-            Icon {
-                anchors.verticalCenter: parent.verticalCenter
-                symbol: game.familyMarks[boardRow.index] || ""
-                size: game.cellWidth * 0.55
-                color: TilePalette.currentMode
-                visible: game.familyMarks[0] !== ""
-            }
-            Repeater {
-                model: game.gameLetters
-                delegate: Tile {
-                    readonly property int cell: boardRow.index * game.gameLetters + index
-                    objectName: "cell_" + cell
-                    letter: game.cellLetters[cell] || ""
-                    colorName: game.cellColors[cell] || "white"
-                    borderWidth: game.cellBorders[cell] || 1
-                    onTouched: game.touchCell(cell)
-                }
-            }
-            Icon {
-                id: mark
-                anchors.verticalCenter: parent.verticalCenter
-                symbol: game.rowMarks[boardRow.index] || ""
-                size: game.cellWidth * 0.55
-                color: TilePalette.fill(game.rowMarkColors[boardRow.index] || "white")
-                visible: game.rowMarks[0] !== ""
-                Accessible.ignored: symbol === ""
-                Accessible.role: Accessible.Graphic
-                Accessible.name: symbol
+        Repeater {
+            model: board.model
+            delegate: Tile {
+                objectName: "cell_" + index
+                size: board.cellWidth
+                onTouched: (index) => board.cellTouched(index)
             }
         }
+    }
+    RowMarks {
+        rows: board.model.gridRows
+        cellWidth: board.cellWidth
+        symbols: board.rowMarks
+        colors: board.rowMarkColors
+        spoken: true
     }
 }

@@ -1,14 +1,16 @@
 import QtQuick
 import QtQuick.Controls
+import Tessarine
 
 // The present of the bonus day. All of it stays English in both languages.
 Dialog {
     id: alert
+    required property AlertsModel alerts
     modal: true
     anchors.centerIn: Overlay.overlay
     width: 340
     // The session says when the alert is up; closing it here reports back through the actions.
-    readonly property bool wanted: game.showChristmasAlert
+    readonly property bool wanted: alert.alerts.showChristmasAlert
     onWantedChanged: wanted ? open() : close()
     Component.onCompleted: if (wanted) open()
     closePolicy: Popup.NoAutoClose
@@ -17,7 +19,7 @@ Dialog {
         topPadding: 16
         leftPadding: 16
         rightPadding: 16
-        text: game.christmasAlertTitle
+        text: alert.alerts.christmasAlertTitle
         wrapMode: Text.Wrap
         font.pixelSize: 18
         font.bold: true
@@ -26,20 +28,20 @@ Dialog {
         Accessible.name: text
     }
     contentItem: Text {
-        text: game.christmasMessage
+        text: alert.alerts.christmasMessage
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         font.pixelSize: 15
         Accessible.role: Accessible.AlertMessage
-        Accessible.name: game.christmasAlertTitle
+        Accessible.name: alert.alerts.christmasAlertTitle
         Accessible.description: text
     }
     footer: DialogButtonBox {
         Button {
-            text: game.christmasAlertButton
-            DialogButtonBox.buttonRole: DialogButtonBox.RejectRole
+            text: alert.alerts.christmasAlertButton
+            onClicked: alert.reject()
             Accessible.name: text
         }
     }
-    onClosed: if (game.showChristmasAlert) game.dismissChristmasAlert()
+    onClosed: if (alert.alerts.showChristmasAlert) alert.alerts.dismissChristmasAlert()
 }

@@ -1,9 +1,13 @@
+pragma ComponentBehavior: Bound
 import QtQuick
+import Tessarine
 
 // The main screen, drawn from the session: buttons, the date bar, the board, the score or the
-// keypad. Touches and key presses go to the bridge; nothing here decides a rule.
+// keypad. Touches and key presses go to the screen models; nothing here decides a rule.
 Rectangle {
     id: screen
+    required property SessionHost host
+    readonly property MainScreenModel game: host.mainScreen
     color: "white"
     focus: true
 
@@ -13,13 +17,13 @@ Rectangle {
 
     Keys.onPressed: (event) => {
         if (event.key === Qt.Key_Backspace || event.key === Qt.Key_Delete) {
-            game.clearCell()
+            screen.game.clearCell()
             event.accepted = true
         } else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) {
-            game.submitGuess()
+            screen.game.submitGuess()
             event.accepted = true
         } else if (event.text.length > 0) {
-            event.accepted = game.typeText(event.text)
+            event.accepted = screen.game.typeText(event.text)
         }
     }
 
@@ -63,54 +67,27 @@ Rectangle {
 
         DateBar {
             anchors.horizontalCenter: parent.horizontalCenter
+            dates: screen.host.dateBar
             onOpenDateList: dateWheel.open()
         }
 
         Board {
-            id: board
             objectName: "board"
             anchors.horizontalCenter: parent.horizontalCenter
+            model: screen.game.board
+            cellWidth: screen.game.cellWidth
+            familyMarks: screen.game.familyMarks
+            rowMarks: screen.game.rowMarks
+            rowMarkColors: screen.game.rowMarkColors
+            onCellTouched: (index) => screen.game.touchCell(index)
         }
 
-        Column {
+        ScoreLines {
             anchors.horizontalCenter: parent.horizontalCenter
             width: parent.width - 32
-            spacing: 6
-            visible: !game.showKeypad
-
-            Row {
-                anchors.horizontalCenter: parent.horizontalCenter
-                spacing: 6
-                Text {
-                    objectName: "scoreLine"
-                    text: game.scoreLine
-                    font.pixelSize: 24
-                    font.bold: true
-                    color: TilePalette.currentMode
-                    Accessible.role: Accessible.AlertMessage
-                    Accessible.name: text
-                    Accessible.description: game.scoreMark === "" ? "" : game.scoreMark
-                }
-                Icon {
-                    anchors.verticalCenter: parent.verticalCenter
-                    symbol: game.scoreMark
-                    size: 26
-                    color: TilePalette.fill(game.scoreMarkColor)
-                }
-            }
-            Text {
-                width: parent.width
-                text: game.definitionLine
-                textFormat: Text.PlainText
-                wrapMode: Text.Wrap
-                font.pixelSize: 14
-                horizontalAlignment: Text.AlignHCenter
-                visible: text.length > 0
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
-            }
+            game: screen.game
+            visible: !screen.game.showKeypad
         }
-
     }
 
     // The keypad sits low, under the thumbs; the hint texts go under it.
@@ -121,14 +98,26 @@ Rectangle {
         width: parent.width - 32
         spacing: 8
 
-        Keypad {
-            objectName: "keypad"
+        Column {
             anchors.horizontalCenter: parent.horizontalCenter
-            visible: game.showKeypad
+            spacing: 6
+            visible: screen.game.showKeypad
+
+            Keypad {
+                objectName: "keypad"
+                anchors.horizontalCenter: parent.horizontalCenter
+                model: screen.game.keypad
+                keyWidth: screen.game.keypadWidth
+                onKeyPressed: (index) => screen.game.pressKey(index)
+            }
+            EntryButtons {
+                anchors.horizontalCenter: parent.horizontalCenter
+                game: screen.game
+            }
         }
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: game.hintsLine
+            text: screen.game.hintsLine
             font.pixelSize: 15
             visible: text.length > 0
             Accessible.role: Accessible.StaticText
@@ -136,7 +125,7 @@ Rectangle {
         }
         Text {
             width: parent.width
-            text: game.hintDefinitionLine
+            text: screen.game.hintDefinitionLine
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
             font.pixelSize: 14
@@ -147,8 +136,8 @@ Rectangle {
         }
     }
 
-    DateWheel { id: dateWheel }
-    HintsAlert {}
-    ChristmasAlert {}
-    ThankYouCover { anchors.fill: parent }
+    DateWheel { id: dateWheel; dates: screen.host.dateBar }
+    HintsAlert { alerts: screen.host.alerts }
+    ChristmasAlert { alerts: screen.host.alerts }
+    ThankYouCover { anchors.fill: parent; alerts: screen.host.alerts }
 }

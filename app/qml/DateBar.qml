@@ -1,8 +1,10 @@
 import QtQuick
+import Tessarine
 
 // The shown day with the date list, the current-day button, and the latest open day.
 Column {
     id: bar
+    required property DateBarModel dates
     signal openDateList()
     spacing: 2
 
@@ -12,16 +14,16 @@ Column {
 
         IconButton {
             symbol: "calendar"
-            name: game.dateListTitle
+            name: bar.dates.dateListTitle
             onClicked: {
-                game.openDateList()
+                bar.dates.openDateList()
                 bar.openDateList()
             }
         }
         Text {
             anchors.verticalCenter: parent.verticalCenter
             width: Math.max(190, implicitWidth)
-            text: game.shownDate
+            text: bar.dates.shownDate
             font.pixelSize: 19
             font.bold: true
             horizontalAlignment: Text.AlignHCenter
@@ -30,17 +32,17 @@ Column {
         }
         // Days after today are closed: the arrow's place stays blank unless future games are on.
         IconButton {
-            symbol: game.playFutureGames ? "chevron.right" : ""
+            symbol: bar.dates.playFutureGames ? "chevron.right" : ""
             name: "Next day"
-            enabled: game.playFutureGames
+            enabled: bar.dates.playFutureGames
             opacity: 1.0
-            onClicked: game.goForward()
+            onClicked: bar.dates.goForward()
         }
         IconButton {
             symbol: "sunrise"
             name: "Today"
-            enabled: !game.disableCurrent
-            onClicked: game.goToToday()
+            enabled: bar.dates.currentEnabled
+            onClicked: bar.dates.goToToday()
         }
     }
     Row {
@@ -49,15 +51,15 @@ Column {
 
         IconButton {
             symbol: "figure.wave"
-            name: game.latestLabel
+            name: bar.dates.latestLabel
             size: 24
-            enabled: !game.disableFirst
-            onClicked: game.goToLatestOpen()
+            enabled: bar.dates.latestEnabled
+            onClicked: bar.dates.goToLatestOpen()
         }
         Text {
             anchors.verticalCenter: parent.verticalCenter
             width: 300
-            text: game.latestLabel + " " + game.latestValue
+            text: bar.dates.latestLabel + " " + bar.dates.latestValue
             font.pixelSize: 13
             wrapMode: Text.Wrap
             Accessible.role: Accessible.StaticText

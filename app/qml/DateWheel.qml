@@ -1,9 +1,12 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
+import Tessarine
 
 // The wheel of selectable days; one line per day, today first.
 Popup {
     id: wheel
+    required property DateBarModel dates
     modal: true
     focus: true
     anchors.centerIn: Overlay.overlay
@@ -12,17 +15,18 @@ Popup {
     closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
 
     // The session opens the list; opening lands on the line of the day on the board.
-    readonly property bool wanted: game.selectingDate
+    readonly property bool wanted: wheel.dates.selectingDate
     onWantedChanged: if (wanted) open()
     Component.onCompleted: if (wanted) open()
-    onAboutToShow: tumbler.currentIndex = game.selectedDateIndex
+    onAboutToShow: tumbler.currentIndex = wheel.dates.selectedDateIndex
 
-    contentItem: Column {
+    Column {
+        width: parent.width
         spacing: 12
 
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: game.dateListTitle
+            text: wheel.dates.dateListTitle
             font.pixelSize: 19
             font.bold: true
             Accessible.role: Accessible.Heading
@@ -35,7 +39,7 @@ Popup {
             height: 200
             visibleItemCount: 5
             wrap: false
-            model: game.allDatesInfo
+            model: wheel.dates.allDatesInfo
             delegate: Text {
                 required property string modelData
                 required property int index
@@ -48,16 +52,16 @@ Popup {
                 Accessible.name: modelData
             }
             Accessible.role: Accessible.List
-            Accessible.name: game.dateListTitle
+            Accessible.name: wheel.dates.dateListTitle
         }
         Button {
             objectName: "selectDateButton"
             anchors.horizontalCenter: parent.horizontalCenter
-            text: game.dateListButton
+            text: wheel.dates.dateListButton
             Accessible.name: text
             onClicked: {
                 wheel.close()
-                game.pickDate(tumbler.currentIndex)
+                wheel.dates.pickDate(tumbler.currentIndex)
             }
         }
     }

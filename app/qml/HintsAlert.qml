@@ -1,20 +1,22 @@
 import QtQuick
 import QtQuick.Controls
+import Tessarine
 
 // The question raised by the hints button.
 Dialog {
     id: alert
+    required property AlertsModel alerts
     modal: true
     anchors.centerIn: Overlay.overlay
     width: 320
     // The session says when the alert is up; closing it here reports back through the actions.
-    readonly property bool wanted: game.showHintsAlert
+    readonly property bool wanted: alert.alerts.showHintsAlert
     onWantedChanged: wanted ? open() : close()
     Component.onCompleted: if (wanted) open()
     closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
 
     contentItem: Text {
-        text: game.hintsAlertTitle
+        text: alert.alerts.hintsAlertTitle
         wrapMode: Text.Wrap
         font.pixelSize: 17
         font.bold: true
@@ -25,11 +27,11 @@ Dialog {
     footer: DialogButtonBox {
         Button {
             objectName: "confirmHintButton"
-            text: game.hintsAlertConfirm
-            DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole
+            text: alert.alerts.hintsAlertConfirm
+            onClicked: alert.accept()
             Accessible.name: text
         }
     }
-    onAccepted: game.confirmHint()
-    onClosed: if (game.showHintsAlert) game.dismissHintsAlert()
+    onAccepted: alert.alerts.confirmHint()
+    onClosed: if (alert.alerts.showHintsAlert) alert.alerts.dismissHintsAlert()
 }

@@ -1,17 +1,19 @@
 import QtQuick
 
-// One key of the keypad. A dead key (black, or an operator that cannot stand at the cursor) has
-// no action.
+// One key of a keypad. A dead key (black, or an operator that cannot stand at the cursor) has no
+// action.
 Rectangle {
     id: key
-    required property int keyIndex
-    required property string label
+    required property int index
+    required property string symbol
+    required property string glyph
     required property string colorName
+    required property string spokenName
     required property bool live
-    property real keyWidth: game.keypadWidth
-    signal pressed(int keyIndex)
+    required property real keyWidth
+    signal pressed(int index)
 
-    objectName: "key_" + label
+    objectName: "key_" + symbol
     width: keyWidth
     height: keyWidth * 1.45
     radius: 4
@@ -22,7 +24,7 @@ Rectangle {
 
     Text {
         anchors.centerIn: parent
-        text: game.glyphFor(key.label)
+        text: key.glyph
         font.pixelSize: key.keyWidth * 0.55
         font.bold: true
         color: TilePalette.ink(key.colorName)
@@ -30,9 +32,9 @@ Rectangle {
     MouseArea {
         anchors.fill: parent
         enabled: key.live
-        onClicked: key.pressed(key.keyIndex)
+        onClicked: key.pressed(key.index)
     }
     Accessible.role: Accessible.Button
-    Accessible.name: game.spokenName(label, colorName)
-    Accessible.onPressAction: if (live) key.pressed(key.keyIndex)
+    Accessible.name: spokenName
+    Accessible.onPressAction: if (live) key.pressed(key.index)
 }

@@ -1,68 +1,36 @@
+pragma ComponentBehavior: Bound
 import QtQuick
+import Tessarine
 
-// The keys of the game's family in their rows, and the buttons under them.
-Column {
+// The keys of a keypad in their rows, each row centred. Each key stands where the model puts it,
+// so a change of colour or liveness repaints that key alone.
+Item {
     id: keypad
-    spacing: 6
+    required property TileListModel model
+    required property real keyWidth
+    signal keyPressed(int index)
 
-    Repeater {
-        model: game.keyRows
-        delegate: Row {
-            id: keyRow
-            required property var modelData
-            anchors.horizontalCenter: parent.horizontalCenter
-            spacing: 4
+    readonly property real keyHeight: keyWidth * 1.45
+    readonly property real keySpacing: 4
+    readonly property real rowSpacing: 6
 
-            Repeater {
-                model: keyRow.modelData
-                delegate: Key {
-                    required property int modelData
-                    keyIndex: modelData
-                    label: game.keyLabels[modelData] || ""
-                    colorName: game.keyColors[modelData] || "white"
-                    live: game.keysLive[modelData] || false
-                    onPressed: (keyIndex) => game.pressKey(keyIndex)
-                }
-            }
-        }
+    function rowWidth(keys: int): real {
+        return keys * (keyWidth + keySpacing) - keySpacing
     }
 
-    Row {
-        anchors.horizontalCenter: parent.horizontalCenter
-        spacing: 10
+    implicitWidth: Math.max(rowWidth(model.gridColumns), 0)
+    implicitHeight: Math.max(model.gridRows * (keyHeight + rowSpacing) - rowSpacing, 0)
 
-        IconButton {
-            objectName: "clearRowButton"
-            symbol: "trash.square"
-            name: "Clear row"
-            onClicked: game.clearRow()
-        }
-        IconButton {
-            symbol: "checkmark.square"
-            name: "Move correct letters"
-            tint: "#34c759"
-            enabled: game.greenButtonEnabled
-            onClicked: game.moveCorrectLetters()
-        }
-        IconButton {
-            symbol: "lightbulb"
-            name: "Hints"
-            tint: "#ff9500"
-            visible: game.hasHintsButton
-            enabled: game.hintsEnabled
-            onClicked: game.pressHints()
-        }
-        IconButton {
-            symbol: "clear"
-            name: "Clear cell"
-            onClicked: game.clearCell()
-        }
-        IconButton {
-            objectName: "submitButton"
-            symbol: "arrow.down.app"
-            name: "Submit guess"
-            enabled: game.submitEnabled
-            onClicked: game.submitGuess()
+    Repeater {
+        model: keypad.model
+        delegate: Key {
+            required property int gridRow
+            required property int gridColumn
+            required property int rowLength
+            keyWidth: keypad.keyWidth
+            x: (keypad.width - keypad.rowWidth(rowLength)) / 2 + gridColumn * (keypad.keyWidth + keypad.keySpacing)
+            y: gridRow * (keypad.keyHeight + keypad.rowSpacing)
+            onPressed: (index) => keypad.keyPressed(index)
         }
     }
 }

@@ -1,33 +1,36 @@
 import QtQuick
-import QtQuick.Window
+import Tessarine
 
-// The phone-sized window. It shows the main screen, or the fatal stop when the core has failed.
+// The phone-sized window. It shows the main screen with its sheets, or the fatal stop when the
+// core has failed.
 Window {
     id: window
+    required property SessionHost host
     width: 390
     height: 844
     visible: true
     title: "Tessarine"
     color: "white"
 
-    Binding {
-        target: game
-        property: "viewport"
-        value: Qt.size(window.width, window.height)
+    // The board's sizes follow the screen's.
+    function reportViewport() {
+        window.host.mainScreen.resizeViewport(window.width, window.height)
     }
+    onWidthChanged: reportViewport()
+    onHeightChanged: reportViewport()
+    Component.onCompleted: reportViewport()
 
-    Loader {
+    // The fatal stop covers everything; the main screen underneath no longer takes a touch.
+    SheetHost {
         anchors.fill: parent
-        sourceComponent: game.fatalMessage.length > 0 ? fatalScreen : mainScreen
+        host: window.host
         focus: true
+        visible: !fatal.visible
     }
-
-    Component {
-        id: mainScreen
-        ContentView { focus: true }
-    }
-    Component {
-        id: fatalScreen
-        FatalErrorView { message: game.fatalMessage }
+    FatalErrorView {
+        id: fatal
+        anchors.fill: parent
+        message: window.host.fatalMessage
+        visible: message.length > 0
     }
 }

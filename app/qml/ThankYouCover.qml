@@ -1,13 +1,16 @@
 import QtQuick
+import Tessarine
 
 // Covers the screen while the app is not active.
 Rectangle {
+    id: cover
+    required property AlertsModel alerts
     color: "white"
-    visible: game.thankYouFlag
+    visible: cover.alerts.thankYouFlag
 
     Text {
         anchors.centerIn: parent
-        text: game.thankYou
+        text: cover.alerts.thankYou
         font.pixelSize: 30
         font.bold: true
         color: TilePalette.currentMode

@@ -1,16 +1,18 @@
 import QtQuick
 
-// One cell of the board: its symbol on its colour, with the thick border on the active cell.
+// One cell of a board: its symbol on its colour, with the thick border on the active cell.
 Rectangle {
     id: tile
     required property int index
-    required property string letter
+    required property string glyph
     required property string colorName
+    required property string spokenName
     required property real borderWidth
+    required property real size
     signal touched(int index)
 
-    width: game.cellWidth
-    height: game.cellWidth
+    width: size
+    height: size
     radius: 3
     color: TilePalette.fill(colorName)
     border.width: borderWidth
@@ -18,7 +20,7 @@ Rectangle {
 
     Text {
         anchors.centerIn: parent
-        text: game.glyphFor(tile.letter)
+        text: tile.glyph
         textFormat: Text.PlainText
         font.pixelSize: tile.width * 0.6
         font.bold: true
@@ -29,6 +31,6 @@ Rectangle {
         onClicked: tile.touched(tile.index)
     }
     Accessible.role: Accessible.Cell
-    Accessible.name: game.spokenName(letter, colorName)
+    Accessible.name: spokenName
     Accessible.onPressAction: tile.touched(tile.index)
 }

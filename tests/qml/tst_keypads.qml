@@ -1,6 +1,7 @@
 import QtQuick
 import QtTest
 import Tessarine
+import TessarineTest
 
 // The keypad of each family: its rows on screen, and the operator keys that are dead.
 Item {
@@ -10,14 +11,32 @@ Item {
     ContentView {
         id: screen
         anchors.fill: parent
+        host: TestSession.host
     }
 
     TestCase {
         name: "Keypads"
         when: windowShown
 
-        function rowLengths() {
-            return game.keyRows.map(row => row.length)
+        readonly property MainScreenModel game: TestSession.host.mainScreen
+
+        // The drawn keys, row by row, in their order on screen.
+        function drawnRows() {
+            const rows = []
+            const keypad = findChild(screen, "keypad")
+            for (let i = 0; i < keypad.children.length; ++i) {
+                const key = keypad.children[i]
+                if (key.gridRow === undefined) continue
+                while (rows.length <= key.gridRow) rows.push([])
+                rows[key.gridRow][key.gridColumn] = key
+            }
+            return rows
+        }
+
+        function key(symbol) {
+            const item = findChild(screen, "key_" + symbol)
+            verify(item !== null, "no key " + symbol)
+            return item
         }
 
         function test_rows_data() {
@@ -30,32 +49,36 @@ Item {
         }
 
         function test_rows(data) {
-            game.chooseGameType(data.type)
+            TestSession.host.chooseGameType(data.type)
             compare(game.gameType, data.type)
-            compare(rowLengths(), data.rows)
-            compare(game.keyRows[0].map(i => game.keyLabels[i]).join(""), data.firstRow)
-            for (const label of game.keyLabels)
-                verify(findChild(screen, "key_" + label) !== null, "no key " + label)
+            const rows = drawnRows()
+            compare(rows.map(row => row.length), data.rows)
+            compare(rows[0].map(key => key.symbol).join(""), data.firstRow)
+            // Each row is centred: as much room left of its first key as right of its last.
+            for (const row of rows) {
+                const last = row[row.length - 1]
+                fuzzyCompare(row[0].x, findChild(screen, "keypad").width - last.x - last.width, 0.5)
+            }
         }
 
         function test_operators_dead_in_the_first_column() {
-            game.chooseGameType("M")
-            compare(game.currentPosition % game.gameLetters, 0)
-            const live = label => game.keysLive[game.keyLabels.indexOf(label)]
-            compare(live("+"), false)
-            compare(live("X"), false)
-            compare(live("/"), false)
-            compare(live("-"), true)
-            compare(live("7"), true)
+            TestSession.host.chooseGameType("M")
+            compare(game.currentPosition % game.board.gridColumns, 0)
+            compare(key("+").live, false)
+            compare(key("X").live, false)
+            compare(key("/").live, false)
+            compare(key("-").live, true)
+            compare(key("7").live, true)
         }
 
         function test_switched_off_operators_are_black() {
-            game.chooseGameType("N")
-            compare(game.keyColors[game.keyLabels.indexOf("X")], "black")
-            compare(game.keyColors[game.keyLabels.indexOf("/")], "black")
-            mouseClick(findChild(screen, "key_7"))
-            compare(game.keysLive[game.keyLabels.indexOf("X")], false)
-            compare(game.keysLive[game.keyLabels.indexOf("+")], true)
+            TestSession.host.chooseGameType("N")
+            compare(key("X").colorName, "black")
+            compare(key("/").colorName, "black")
+            mouseClick(key("7"))
+            compare(key("X").live, false)
+            compare(key("+").live, true)
+            compare(key("X").Accessible.name, "times, black")
         }
     }
 }

@@ -1,6 +1,7 @@
 import QtQuick
 import QtTest
 import Tessarine
+import TessarineTest
 
 // A short game of "C" played on the main screen, by touch and by the keyboard.
 Item {
@@ -10,12 +11,16 @@ Item {
     ContentView {
         id: screen
         anchors.fill: parent
+        host: TestSession.host
     }
 
     TestCase {
         id: testCase
         name: "Play"
         when: windowShown
+
+        readonly property MainScreenModel game: TestSession.host.mainScreen
+        readonly property string testAnswer: TestSession.answer
 
         function tap(name) {
             const item = findChild(screen, name)
@@ -27,8 +32,15 @@ Item {
             for (const letter of word) tap("key_" + letter)
         }
 
+        function rowCells(row, role) {
+            const cells = []
+            for (let column = 0; column < 5; ++column)
+                cells.push(findChild(screen, "cell_" + (row * 5 + column))[role])
+            return cells
+        }
+
         function rowColors(row) {
-            return game.cellColors.slice(row * game.gameLetters, (row + 1) * game.gameLetters)
+            return rowCells(row, "colorName")
         }
 
         // The first valid word that is not today's answer, so the game goes on after it.
@@ -39,7 +51,7 @@ Item {
         function test_game_by_touch_and_keyboard() {
             compare(testAnswer.length, 5)
             typeByTouch(openingWord())
-            compare(game.cellLetters.slice(0, 5).join(""), openingWord())
+            compare(rowCells(0, "glyph").join(""), openingWord())
             verify(game.submitEnabled)
             tap("submitButton")
             compare(game.activeRow, 1)

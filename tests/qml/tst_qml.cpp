@@ -1,6 +1,6 @@
 // The Qt Quick tests run against a real session: a temporary data directory per test file, the
-// lists of the source tree, a pinned day and a seeded random source.
-#include <QQmlContext>
+// lists of the source tree, a pinned day and a seeded random source. The QML reaches the session
+// host and today's answer through the TestSession singleton.
 #include <QQmlEngine>
 #include <QTemporaryDir>
 #include <QtQuickTest>
@@ -8,8 +8,8 @@
 
 #include "catalogue/calendar.h"
 #include "catalogue/lists.h"
-#include "game_bridge.h"
 #include "session/session.h"
+#include "session_host.h"
 
 namespace {
 
@@ -23,16 +23,34 @@ struct TestGame {
   tessarine::FixedClock clock{kToday};
   tessarine::SplitMix64 random{20230601};
   std::unique_ptr<tessarine::Session> session;
-  GameBridge bridge;
+  SessionHost host;
 
   TestGame() {
     session = std::make_unique<tessarine::Session>(dataDirectory.path().toStdString(), lists, clock, random);
-    bridge.attach(session.get());
-    bridge.launch();
+    host.attach(session.get());
+    host.launch();
   }
 };
 
 }  // namespace
+
+class TestSession : public QObject {
+  Q_OBJECT
+  Q_PROPERTY(SessionHost* host READ host CONSTANT)
+  Q_PROPERTY(QString answer READ answer CONSTANT)
+
+ public:
+  explicit TestSession(TestGame& game) : game_(game) {}
+  SessionHost* host() { return &game_.host; }
+  // Today's answer of "C", the first game.
+  QString answer() const {
+    const int day = tessarine::daysFromApril1st(game_.clock) - 1;
+    return QString::fromStdString(game_.lists.answer("C", day));
+  }
+
+ private:
+  TestGame& game_;
+};
 
 class Setup : public QObject {
   Q_OBJECT
@@ -40,16 +58,24 @@ class Setup : public QObject {
  public slots:
   // Each test file gets its own engine and a game that starts from empty stores.
   void qmlEngineAvailable(QQmlEngine* engine) {
+    session_.reset();
     game_ = std::make_unique<TestGame>();
+    session_ = std::make_unique<TestSession>(*game_);
     engine->addImportPath(QStringLiteral("qrc:/"));
-    const int day = tessarine::daysFromApril1st(game_->clock) - 1;
-    engine->rootContext()->setContextProperty(QStringLiteral("game"), &game_->bridge);
-    engine->rootContext()->setContextProperty(QStringLiteral("testAnswer"),
-                                              QString::fromStdString(game_->lists.answer("C", day)));
+    static bool registered = false;
+    if (!registered) {
+      registered = true;
+      qmlRegisterSingletonType<TestSession>(
+          "TessarineTest", 1, 0, "TestSession", [this](QQmlEngine*, QJSEngine*) -> QObject* {
+            QQmlEngine::setObjectOwnership(session_.get(), QQmlEngine::CppOwnership);
+            return session_.get();
+          });
+    }
   }
 
  private:
   std::unique_ptr<TestGame> game_;
+  std::unique_ptr<TestSession> session_;
 };
 
 QUICK_TEST_MAIN_WITH_SETUP(tessarine_qml, Setup)

@@ -1,8 +1,9 @@
 import QtQuick
 import QtTest
 import Tessarine
+import TessarineTest
 
-// Every screen and shared piece loads headless without an error.
+// Every screen and shared piece loads headless without an error, and the first game is drawn.
 TestCase {
     id: testCase
     name: "Screens"
@@ -10,17 +11,23 @@ TestCase {
     height: 844
     when: windowShown
 
+    readonly property SessionHost host: TestSession.host
+
     function test_loads_data() {
+        const game = host.mainScreen
         return [
-            { tag: "ContentView", file: "ContentView.qml", props: {} },
+            { tag: "SheetHost", file: "SheetHost.qml", props: { host: host } },
+            { tag: "ContentView", file: "ContentView.qml", props: { host: host } },
             { tag: "FatalErrorView", file: "FatalErrorView.qml", props: { message: "Core Data Store failed " } },
-            { tag: "Board", file: "Board.qml", props: {} },
-            { tag: "Keypad", file: "Keypad.qml", props: {} },
-            { tag: "DateBar", file: "DateBar.qml", props: {} },
-            { tag: "ThankYouCover", file: "ThankYouCover.qml", props: {} },
-            { tag: "DateWheel", file: "DateWheel.qml", props: {} },
-            { tag: "HintsAlert", file: "HintsAlert.qml", props: {} },
-            { tag: "ChristmasAlert", file: "ChristmasAlert.qml", props: {} },
+            { tag: "Board", file: "Board.qml", props: { model: game.board, cellWidth: 40 } },
+            { tag: "Keypad", file: "Keypad.qml", props: { model: game.keypad, keyWidth: 30 } },
+            { tag: "EntryButtons", file: "EntryButtons.qml", props: { game: game } },
+            { tag: "ScoreLines", file: "ScoreLines.qml", props: { game: game } },
+            { tag: "DateBar", file: "DateBar.qml", props: { dates: host.dateBar } },
+            { tag: "DateWheel", file: "DateWheel.qml", props: { dates: host.dateBar } },
+            { tag: "ThankYouCover", file: "ThankYouCover.qml", props: { alerts: host.alerts } },
+            { tag: "HintsAlert", file: "HintsAlert.qml", props: { alerts: host.alerts } },
+            { tag: "ChristmasAlert", file: "ChristmasAlert.qml", props: { alerts: host.alerts } },
         ]
     }
 
@@ -32,12 +39,29 @@ TestCase {
     }
 
     function test_board_is_the_empty_first_game() {
-        compare(game.gameType, "C")
-        compare(game.gameLetters, 5)
-        compare(game.gameRows, 6)
-        compare(game.cellLetters.length, 30)
-        compare(game.cellLetters.filter(letter => letter !== "").length, 0)
-        compare(game.keyLabels.slice(0, 10).join(""), "QWERTYUIOP")
+        const screen = createTemporaryObject(Qt.createComponent("qrc:/Tessarine/qml/ContentView.qml"),
+                                             testCase, { host: host, width: 390, height: 844 })
+        compare(host.mainScreen.gameType, "C")
+        compare(host.mainScreen.board.gridColumns, 5)
+        compare(host.mainScreen.board.gridRows, 6)
+        for (let cell = 0; cell < 30; ++cell)
+            compare(findChild(screen, "cell_" + cell).glyph, "")
+        verify(findChild(screen, "cell_30") === null)
+        for (const letter of "QWERTYUIOP")
+            compare(findChild(screen, "key_" + letter).gridRow, 0)
+    }
+
+    // A sheet covers the main screen and hands it back when it closes.
+    function test_sheets_open_over_the_main_screen() {
+        const sheets = createTemporaryObject(Qt.createComponent("qrc:/Tessarine/qml/SheetHost.qml"),
+                                             testCase, { host: host })
+        const sheet = Qt.createComponent("qrc:/Tessarine/qml/FatalErrorView.qml")
+        sheets.openSheet(sheet, { message: "A sheet" })
+        compare(sheets.depth, 2)
+        compare(sheets.currentItem.message, "A sheet")
+        sheets.closeSheet()
+        sheets.closeSheet()
+        compare(sheets.depth, 1)
     }
 
     // A symbol name that the table does not know would draw nothing at all.

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QObject>
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+
+#include "tile_list_model.h"
+
+class SessionHost;
+
+// The main screen: the board with its row marks, the keypad with the buttons under it, and the
+// score, definition and hint texts. The board and keypad models are rebuilt from the session
+// after each action, every key's liveness worked out once there.
+class MainScreenModel : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Owned by the session host")
+  Q_PROPERTY(TileListModel* board READ board CONSTANT)
+  Q_PROPERTY(TileListModel* keypad READ keypad CONSTANT)
+  Q_PROPERTY(QString gameType READ gameType NOTIFY changed)
+  Q_PROPERTY(int activeRow READ activeRow NOTIFY changed)
+  Q_PROPERTY(int currentPosition READ currentPosition NOTIFY changed)
+  Q_PROPERTY(QStringList rowMarks READ rowMarks NOTIFY changed)
+  Q_PROPERTY(QStringList rowMarkColors READ rowMarkColors NOTIFY changed)
+  Q_PROPERTY(QStringList familyMarks READ familyMarks NOTIFY changed)
+  Q_PROPERTY(bool showKeypad READ showKeypad NOTIFY changed)
+  Q_PROPERTY(bool submitEnabled READ submitEnabled NOTIFY changed)
+  Q_PROPERTY(bool greenButtonEnabled READ greenButtonEnabled NOTIFY changed)
+  Q_PROPERTY(bool hasHintsButton READ hasHintsButton NOTIFY changed)
+  Q_PROPERTY(bool hintsEnabled READ hintsEnabled NOTIFY changed)
+  // Sizes, from the screen the window reports through resizeViewport().
+  Q_PROPERTY(QSizeF viewport READ viewport NOTIFY changed)
+  Q_PROPERTY(qreal cellWidth READ cellWidth NOTIFY changed)
+  Q_PROPERTY(qreal keypadWidth READ keypadWidth NOTIFY changed)
+  Q_PROPERTY(QString scoreLine READ scoreLine NOTIFY changed)
+  Q_PROPERTY(QString scoreMark READ scoreMark NOTIFY changed)
+  Q_PROPERTY(QString scoreMarkColor READ scoreMarkColor NOTIFY changed)
+  Q_PROPERTY(QString definitionLine READ definitionLine NOTIFY changed)
+  Q_PROPERTY(QString hintsLine READ hintsLine NOTIFY changed)
+  Q_PROPERTY(QString hintDefinitionLine READ hintDefinitionLine NOTIFY changed)
+
+ public:
+  explicit MainScreenModel(SessionHost& host);
+
+  TileListModel* board() { return &board_; }
+  TileListModel* keypad() { return &keypad_; }
+  QString gameType() const;
+  int activeRow() const;
+  int currentPosition() const;
+  QStringList rowMarks() const;
+  QStringList rowMarkColors() const;
+  QStringList familyMarks() const;
+  bool showKeypad() const;
+  bool submitEnabled() const;
+  bool greenButtonEnabled() const;
+  bool hasHintsButton() const;
+  bool hintsEnabled() const { return hintsEnabled_; }
+
+  QSizeF viewport() const { return viewport_; }
+  Q_INVOKABLE void resizeViewport(qreal width, qreal height);
+  qreal cellWidth() const;
+  qreal keypadWidth() const;
+
+  QString scoreLine() const;
+  QString scoreMark() const;
+  QString scoreMarkColor() const;
+  QString definitionLine() const;
+  QString hintsLine() const;
+  QString hintDefinitionLine() const;
+
+  // Actions. A key is its row in the keypad model.
+  Q_INVOKABLE void pressKey(int keyIndex);
+  // A key of a physical keyboard: a letter, digit or operator that the keypad has and that is live.
+  Q_INVOKABLE bool typeText(const QString& text);
+  Q_INVOKABLE void touchCell(int cellIndex);
+  Q_INVOKABLE void clearCell();
+  Q_INVOKABLE void clearRow();
+  Q_INVOKABLE void moveCorrectLetters();
+  Q_INVOKABLE void submitGuess();
+  Q_INVOKABLE void pressHints();
+
+ public slots:
+  // Rebuilds the board and keypad from the session, then emits `changed`.
+  void refresh();
+
+ signals:
+  void changed();
+
+ private:
+  void rebuildBoard();
+  void rebuildKeypad();
+
+  SessionHost& host_;
+  TileListModel board_;
+  TileListModel keypad_;
+  bool hintsEnabled_ = false;
+  QSizeF viewport_{390, 844};
+};
