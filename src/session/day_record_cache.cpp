@@ -6,7 +6,9 @@ namespace tessarine {
 
 const std::vector<DayRecord>& DayRecordCache::records(const CoreDataManager& coreDM, std::ostream& log) {
   if (!stale_) return records_;
-  const std::vector<Entry> entries = coreDM.getAllEntries();
+  const std::optional<std::vector<Entry>> fetched = coreDM.fetchEntries();
+  if (!fetched) return records_;
+  const std::vector<Entry>& entries = *fetched;
   // Both lists are in creation order, so one forward walk pairs each entry with its old parse.
   // Records are compacted in place: after a submission only the new record is parsed and only
   // the records behind a deleted one move.

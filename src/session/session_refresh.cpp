@@ -44,6 +44,7 @@ void Session::reloadDay(bool recomputeStreaks, bool recomputeLatest) {
   v.currentPosition = 0;
   v.numCellEntries = 0;
   const std::vector<DayRecord>& records = records_.records(stores_.coreDM, log_);
+  recordsRead_ = records_.fresh();
   v.latestDateIndex = daysNow - 1;
   v.answer = shownAnswer(v, lists_);
   // Taken from today's answer once today is known, so the first refresh after launch (and after

@@ -63,12 +63,13 @@ bool bindText(sqlite3_stmt* stmt, int index, const std::string& text) {
 }  // namespace
 
 DataManager::DataManager(const std::filesystem::path& directory, std::string storeName,
-                         std::string openFailureMessage)
+                         std::string openFailureMessage, std::chrono::milliseconds busyTimeout)
     : storeName_(std::move(storeName)) {
   std::error_code ignored;
   std::filesystem::create_directories(directory, ignored);
   const std::string path = (directory / (storeName_ + ".sqlite")).string();
   int rc = sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+  if (rc == SQLITE_OK) rc = sqlite3_busy_timeout(db_, static_cast<int>(busyTimeout.count()));
   if (rc == SQLITE_OK) {
     // One table of one text attribute; rowid order is creation order, and an update keeps it.
     // An existing store is only read here: opening it writes nothing.
@@ -92,19 +93,28 @@ DataManager::~DataManager() {
   sqlite3_close(db_);
 }
 
-std::vector<Entry> DataManager::getAllEntries() const {
+std::optional<std::vector<Entry>> DataManager::fetchEntries() const {
   std::vector<Entry> entries;
   Statement statement(db_, "SELECT id, text FROM entries ORDER BY id");
-  if (!statement.ok()) return entries;
-  int rc;
-  while ((rc = sqlite3_step(statement.get())) == SQLITE_ROW) {
-    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement.get(), 1));
-    const int bytes = sqlite3_column_bytes(statement.get(), 1);
-    entries.push_back({sqlite3_column_int64(statement.get(), 0),
-                       text != nullptr ? std::string(text, static_cast<std::size_t>(bytes)) : std::string()});
+  int rc = SQLITE_ERROR;
+  if (statement.ok()) {
+    while ((rc = sqlite3_step(statement.get())) == SQLITE_ROW) {
+      const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement.get(), 1));
+      const int bytes = sqlite3_column_bytes(statement.get(), 1);
+      entries.push_back(
+          {sqlite3_column_int64(statement.get(), 0),
+           text != nullptr ? std::string(text, static_cast<std::size_t>(bytes)) : std::string()});
+    }
   }
-  if (rc != SQLITE_DONE) entries.clear();
+  if (rc != SQLITE_DONE) {
+    std::cout << "Failed to fetch " << storeName_ << " " << sqlite3_errmsg(db_) << std::endl;
+    return std::nullopt;
+  }
   return entries;
+}
+
+std::vector<Entry> DataManager::getAllEntries() const {
+  return fetchEntries().value_or(std::vector<Entry>{});
 }
 
 bool DataManager::saveEntry(const std::string& text) {

@@ -200,7 +200,7 @@ std::vector<std::string> restoredCells(const DayRecord& record) {
 }
 
 void padDayRecords(CoreDataManager& coreDM) {
-  const std::vector<Entry> entries = coreDM.getAllEntries();
+  const std::vector<Entry> entries = coreDM.fetchEntries().value_or(std::vector<Entry>{});
   if (entries.empty() || symbolCount(entries.front().text) >= static_cast<std::size_t>(kDayRecordLength))
     return;
   for (const Entry& entry : entries) {

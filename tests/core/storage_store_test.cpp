@@ -11,6 +11,7 @@
 namespace tessarine {
 namespace {
 
+using testing_support::OtherConnection;
 using testing_support::reopenedTexts;
 using testing_support::TempDir;
 using testing_support::texts;
@@ -33,14 +34,6 @@ TEST(Store, KeepsCreationOrderAndUpdatePositionAcrossReopen) {
   EXPECT_TRUE(reopenedTexts<CoreDataManager>(dir.path()).empty());
 }
 
-// Another connection to the same file, to hold locks or plant a trigger.
-struct OtherConnection {
-  explicit OtherConnection(const std::filesystem::path& file) { sqlite3_open(file.c_str(), &db); }
-  ~OtherConnection() { sqlite3_close(db); }
-  bool exec(const char* sql) { return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK; }
-  sqlite3* db = nullptr;
-};
-
 struct FailureCase {
   const char* name;
   const char* setup;  // run on the other connection before the write
@@ -52,7 +45,7 @@ class FailedWrite : public testing::TestWithParam<FailureCase> {};
 
 TEST_P(FailedWrite, PrintsTheLineAndLeavesTheStoreAsItWas) {
   TempDir dir;
-  CoreDataManager store(dir.path());
+  CoreDataManager store(dir.path(), std::chrono::milliseconds(0));
   ASSERT_TRUE(store.saveEntry("first"));
   ASSERT_TRUE(store.saveEntry("second"));
   {

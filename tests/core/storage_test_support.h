@@ -1,5 +1,6 @@
 #pragma once
 
+#include <sqlite3.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -39,6 +40,16 @@ inline std::vector<std::string> texts(const DataManager& manager) {
     result.push_back(entry.text);
   return result;
 }
+
+// Another connection to the same file, to hold locks or plant a trigger.
+struct OtherConnection {
+  explicit OtherConnection(const std::filesystem::path& file) { sqlite3_open(file.c_str(), &db); }
+  ~OtherConnection() { sqlite3_close(db); }
+  OtherConnection(const OtherConnection&) = delete;
+  OtherConnection& operator=(const OtherConnection&) = delete;
+  bool exec(const char* sql) { return sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK; }
+  sqlite3* db = nullptr;
+};
 
 // What a fresh process would read from disk.
 template <typename Manager>
