@@ -51,7 +51,10 @@ void readSettings(ContentView& view, SettingsDataManager& settingDM) {
   if (options.empty()) options = view.gameType.empty() ? std::string("Ó") : view.gameType;
   const std::string full = lengthenedOptions(options);
   view.options() = parseOptionsRecord(full);
-  if (twoRecords && full != options) settingDM.updateEntry(optionsEntry, full);
+  // A damaged record is read with defaults but kept as it is, for the next save of the options.
+  const bool damaged = full.rfind(view.gameType, 0) != 0;
+  if (damaged) std::cout << "Unreadable game type in the options record: playing C" << std::endl;
+  if (twoRecords && full != options && !damaged) settingDM.updateEntry(optionsEntry, full);
   if (!twoRecords) settingDM.deleteEntry(entries[1]);
   view.settingEntries = settingDM.getAllEntries();
 }
