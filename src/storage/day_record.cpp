@@ -159,13 +159,22 @@ std::optional<DayRecord> parseDayRecord(const Entry& entry, std::string& problem
       return std::nullopt;
     }
   }
+  const std::string_view tileText = trimView(symbols.run(0, kTileTextLength + dayDigits - 4));
+  const std::size_t cells = symbolCount(tileText) - std::min(symbolCount(tileText), dayDigits + 2);
+  const auto boardCells = static_cast<std::size_t>(type->tiles * type->rows);
+  if (cells > boardCells) {
+    // A stray byte late in the cells would be replayed as rows the board does not have.
+    problem = std::to_string(cells) + " cells, more than the " + std::to_string(boardCells) +
+              " of game type " + std::string(symbols.at(dayDigits));
+    return std::nullopt;
+  }
   DayRecord record;
   record.entry = entry;
   record.key = std::string(symbols.run(0, dayDigits + 1));
   record.dayIndex = parseIntOr(symbols.run(0, dayDigits), 0);
   record.gameType = symbols.at(dayDigits);
   record.score = score;
-  record.tileText = std::string(trimView(symbols.run(0, kTileTextLength + dayDigits - 4)));
+  record.tileText = std::string(tileText);
   record.marks = std::string(symbols.run(marksFrom, kMarkedRows));
   record.firstCell = static_cast<int>(dayDigits) + 2;
   return record;

@@ -61,5 +61,28 @@ TEST_F(SessionFaults, ALockedSettingsStoreIsNotAFirstRun) {
   EXPECT_EQ(settings, (std::vector<std::string>{"0100", "DNNYYYNNY"}));
 }
 
+TEST_F(SessionFaults, ACellAreaLongerThanTheBoardIsSkippedAndKept) {
+  std::string stray = "CRANE";
+  stray.resize(45, ' ');
+  const std::string records[] = {
+      dayRecord(kToday, "C", 0, stray + "Q"),  // one stray byte late in the cells
+      dayRecord(kToday, "C", 0, std::string(50, 'W')),
+      dayRecord(kToday, "C", 0, "WIELDWIELDWIELDWIELDWIELDWIELDWIELDWIELDWIELDWIELD"),
+  };
+  for (const std::string& bad : records) {
+    seedRecords({bad});
+    seedSettings(0);
+    start();
+    EXPECT_NE(log_.str().find("Skipped day record 0: "), std::string::npos) << bad;
+    EXPECT_EQ(row(0), ".....") << bad;
+    play("CRANE");
+    EXPECT_EQ(storedRecords().front(), bad);
+    EXPECT_EQ(storedRecords().size(), 2u);
+    session_.reset();
+    std::filesystem::remove_all(dir_);
+    log_.str("");
+  }
+}
+
 }  // namespace
 }  // namespace tessarine::testing
