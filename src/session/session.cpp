@@ -21,7 +21,7 @@ int Session::today() const {
 
 void Session::launch() {
   if (view_.gameType != "Ó") return;
-  padDayRecords(stores_.coreDM);
+  padDayRecords(stores_.coreDM, log_);
   records_.invalidate();
   loadSettings(view_, stores_.settingDM, stores_.coreDM, clock_);
   applyCatalogue(view_);
@@ -89,6 +89,7 @@ bool Session::boardMatchesStore() {
 void Session::storeDay(int score, bool rejected) {
   if (!recordsRead_) return;
   tessarine::storeDay(view_, stores_.coreDM, clock_, score, rejected);
+  shownRecords_.insert(stores_.coreDM.lastInsertedId());
   records_.invalidate();
 }
 
@@ -96,7 +97,8 @@ void Session::rewriteShownRecord(const DayRecord& record, int score) {
   if (!recordsRead_) return;
   // Delete and write in one step, so a failed write never loses the day.
   const int day = std::max(0, view_.latestDateIndex + view_.activeDate);
-  stores_.coreDM.replaceEntry(record.entry, dayRecordOf(view_, day, score, false));
+  if (stores_.coreDM.replaceEntry(record.entry, dayRecordOf(view_, day, score, false)))
+    shownRecords_.insert(stores_.coreDM.lastInsertedId());
   records_.invalidate();
 }
 

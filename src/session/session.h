@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <iostream>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "catalogue/clock.h"
@@ -99,6 +100,9 @@ class Session {
   StatisticsPass statistics_;
   bool rowJustAccepted_ = false;  // the refresh narrows the hints only after a new accepted row
   bool recordsRead_ = false;      // the last refresh read the day store, not a stale copy
+  // Records this session showed or wrote: when a newer one replaces one of them, that is a guess
+  // moving the day on. Replacing any other record is news to the player and gets a line.
+  std::unordered_set<std::int64_t> shownRecords_;
 
   struct DateTextKey {
     int today = -1, minimumDay = -1;

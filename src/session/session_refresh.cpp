@@ -76,6 +76,7 @@ void Session::reloadDay(bool recomputeStreaks, bool recomputeLatest) {
   if (recomputeLatest) statistics_.latestDates(v, scope);
   if (recomputeStreaks) statistics_.streaks(v, scope);
 
+  if (scan.lastMatch >= 0) shownRecords_.insert(records[scan.lastMatch].entry.id);
   SessionReplay(*this).run(scan, records);
 
   // A day and game type has one record after a refresh: submissions write a new record and
@@ -83,6 +84,10 @@ void Session::reloadDay(bool recomputeStreaks, bool recomputeLatest) {
   if (!scan.olderMatches.empty()) {
     if (v.latestUnfinishedDate == v.activeDate) v.latestUnfinishedDate = 1;
     for (const int older : scan.olderMatches) {
+      const Entry& entry = records[older].entry;
+      if (recordsRead_ && !shownRecords_.contains(entry.id))
+        log_ << "Deleted day record \"" << printableRecord(entry.text)
+             << "\": a later record holds the same day\n";
       deleteRecord(records[older]);
       v.gamesPlayed -= 1;
     }

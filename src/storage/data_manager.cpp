@@ -133,6 +133,27 @@ bool DataManager::updateEntry(const Entry& entry, const std::string& text) {
       "Failed to save context ");
 }
 
+bool DataManager::updateEntries(const std::vector<Entry>& entries) {
+  return write(
+      db_,
+      [&] {
+        Statement statement(db_, "UPDATE entries SET text = ?1 WHERE id = ?2");
+        if (!statement.ok()) return false;
+        for (const Entry& entry : entries) {
+          sqlite3_stmt* s = statement.get();
+          if (!bindText(s, 1, entry.text) || sqlite3_bind_int64(s, 2, entry.id) != SQLITE_OK ||
+              sqlite3_step(s) != SQLITE_DONE || sqlite3_reset(s) != SQLITE_OK)
+            return false;
+        }
+        return true;
+      },
+      "Failed to save context ");
+}
+
+std::int64_t DataManager::lastInsertedId() const {
+  return sqlite3_last_insert_rowid(db_);
+}
+
 bool DataManager::deleteEntry(const Entry& entry) {
   return write(
       db_, [&] { return remove(entry); }, "Failed to save context ");

@@ -45,6 +45,12 @@ class DataManager {
   // half-way can never lose the record. Day records move this way, never in place.
   bool replaceEntry(const Entry& entry, const std::string& text);
 
+  // Sets the text of every record given, in place and in one transaction: all or none, and the
+  // records keep their order whatever happens half-way.
+  bool updateEntries(const std::vector<Entry>& entries);
+  // The handle of the record that the last successful save or replace created.
+  std::int64_t lastInsertedId() const;
+
   const std::string& storeName() const { return storeName_; }
 
  private:

@@ -37,8 +37,9 @@ class Characters {
   std::vector<std::size_t> starts_;
 };
 
-// The record as one printable line: control and non-ASCII bytes are escaped.
-std::string printable(std::string_view text) {
+}  // namespace
+
+std::string printableRecord(std::string_view text) {
   static constexpr char kHex[] = "0123456789ABCDEF";
   std::string line;
   for (const char c : text) {
@@ -53,6 +54,8 @@ std::string printable(std::string_view text) {
   }
   return line;
 }
+
+namespace {
 
 std::string problemAt(std::size_t position, const std::string& what) {
   return "character " + std::to_string(position) + " " + what;
@@ -138,7 +141,7 @@ std::optional<DayRecord> parseDayRecord(const Entry& entry, std::string& problem
   }
   const GameTypeInfo* type = findGameType(symbols.at(dayDigits));
   if (type == nullptr) {
-    problem = "unknown game type \"" + printable(symbols.at(dayDigits)) + "\"";
+    problem = "unknown game type \"" + printableRecord(symbols.at(dayDigits)) + "\"";
     return std::nullopt;
   }
   const std::string_view scoreSymbol = symbols.at(dayDigits + 1);
@@ -189,7 +192,8 @@ std::vector<DayRecord> readDayRecords(const CoreDataManager& coreDM, std::ostrea
     if (auto record = parseDayRecord(entries[i], problem)) {
       records.push_back(std::move(*record));
     } else {
-      log << "Skipped day record " << i << " \"" << printable(entries[i].text) << "\": " << problem << '\n';
+      log << "Skipped day record " << i << " \"" << printableRecord(entries[i].text) << "\": " << problem
+          << '\n';
     }
   }
   return records;
@@ -208,16 +212,22 @@ std::vector<std::string> restoredCells(const DayRecord& record) {
   return symbols;
 }
 
-void padDayRecords(CoreDataManager& coreDM) {
+void padDayRecords(CoreDataManager& coreDM, std::ostream& log) {
   const std::vector<Entry> entries = coreDM.fetchEntries().value_or(std::vector<Entry>{});
   if (entries.empty() || symbolCount(entries.front().text) >= static_cast<std::size_t>(kDayRecordLength))
     return;
-  for (const Entry& entry : entries) {
-    const std::size_t length = symbolCount(entry.text);
-    std::string padded = entry.text;
-    if (length < static_cast<std::size_t>(kDayRecordLength)) padded.append(kDayRecordLength - length, ' ');
-    coreDM.replaceEntry(entry, padded);
+  std::vector<Entry> padded;
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    const std::size_t length = symbolCount(entries[i].text);
+    if (length >= static_cast<std::size_t>(kDayRecordLength)) continue;
+    Entry lengthened{entries[i].id, entries[i].text + std::string(kDayRecordLength - length, ' ')};
+    std::string problem;
+    if (!parseDayRecord(lengthened, problem)) continue;
+    log << "Padded day record " << i << " \"" << printableRecord(entries[i].text) << "\" to "
+        << kDayRecordLength << " characters\n";
+    padded.push_back(std::move(lengthened));
   }
+  if (!padded.empty()) coreDM.updateEntries(padded);
 }
 
 }  // namespace tessarine

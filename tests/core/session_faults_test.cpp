@@ -84,5 +84,19 @@ TEST_F(SessionFaults, ACellAreaLongerThanTheBoardIsSkippedAndKept) {
   }
 }
 
+TEST_F(SessionFaults, AnOldRecordThatPaddingMakesADuplicateIsNamedWhenReplaced) {
+  const std::string full = dayRecord(kToday, "C", 0, "CRANETOWEL");
+  seedRecords({"0649C0CRANE", full});
+  seedSettings(0);
+  start();
+  EXPECT_NE(log_.str().find("Padded day record 0 \"0649C0CRANE\""), std::string::npos) << log_.str();
+  EXPECT_NE(log_.str().find("Deleted day record \"0649C0CRANE "), std::string::npos) << log_.str();
+  EXPECT_EQ(storedRecords(), std::vector<std::string>{full});
+  // A guess moving the day on replaces the shown record without a line.
+  log_.str("");
+  play("SLATE");
+  EXPECT_EQ(log_.str(), "");
+}
+
 }  // namespace
 }  // namespace tessarine::testing
