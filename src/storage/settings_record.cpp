@@ -17,8 +17,9 @@ std::string lengthenedOptions(const std::string& record) {
   // Counted as the parser splits, so a stray continuation byte is a character here too.
   const std::size_t length = splitSymbols(record).size();
   if (length >= 9) return record;
+  if (length == 0) return std::string("C") + kDefaultFlags;  // not even a game type survived
   const std::string_view defaults = kDefaultFlags;
-  return record + std::string(defaults.substr(length == 0 ? 0 : length - 1));
+  return record + std::string(defaults.substr(length - 1));
 }
 
 Options parseOptionsRecord(const std::string& record) {

@@ -120,6 +120,10 @@ INSTANTIATE_TEST_SUITE_P(
             "NoMinimumDaySwitch", {"0100", "CNNYYYNNY"}, true, 0, "C", "CNNYYYNNY", {"0000", "CNNYYYNNY"}}),
     [](const auto& info) { return std::string(info.param.name); });
 
+TEST(Settings, ARecordWithNothingLeftReadsAsTheDefaults) {
+  EXPECT_EQ(optionsRecord(parseOptionsRecord("")), "CNNYYYNNY");
+}
+
 TEST(Settings, SavedOptionsAndMinimumDaySurviveAReopen) {
   TempDir dir;
   Launch launch(dir.path(), {"0042", "CNNYYYNNY"}, {}, {2023, 12, 25, 12});
