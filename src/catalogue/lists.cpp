@@ -47,6 +47,12 @@ bool isValidUtf8(std::string_view text) {
   return true;
 }
 
+FatalError couldNotLoad(const std::string& name) {
+  // The three-letter answers have always reported their validity file; players' bug reports quote it.
+  const std::string reported = name == "3LetterAnswers" ? "3LetterWords" : name;
+  return FatalError("Could not load " + reported + ".txt from bundle.");
+}
+
 }  // namespace
 
 std::string_view trimView(std::string_view text) {
@@ -79,11 +85,7 @@ std::size_t symbolCount(std::string_view text) {
 const ListFile& Lists::file(const std::string& name) const {
   if (auto found = files_.find(name); found != files_.end()) return *found->second;
   auto text = source_.read(name);
-  if (!text || !isValidUtf8(*text)) {
-    // The three-letter answers have always reported their validity file; players' bug reports quote it.
-    const std::string reported = name == "3LetterAnswers" ? "3LetterWords" : name;
-    throw FatalError("Could not load " + reported + ".txt from bundle.");
-  }
+  if (!text || !isValidUtf8(*text)) throw couldNotLoad(name);
   auto loaded = std::make_unique<ListFile>();
   std::size_t start = 0;
   while (true) {
@@ -101,15 +103,18 @@ const ListFile& Lists::file(const std::string& name) const {
 std::string Lists::answer(std::string_view gameType, int dayIndex) const {
   const GameTypeInfo* info = findGameType(gameType);
   if (info == nullptr || info->answerFile.empty()) return "Tessarine";
-  const ListFile& answers = file(std::string(info->answerFile));
+  const std::string name(info->answerFile);
+  const ListFile& answers = file(name);
+  // A file shorter than its schedule would leave days without an answer, which could never be won.
+  const bool endsInNewline = !answers.lines.empty() && answers.lines.back().empty();
+  if (answers.lines.size() - (endsInNewline ? 1 : 0) < static_cast<std::size_t>(info->modulus))
+    throw couldNotLoad(name);
   int i = dayIndex;
   if (i < info->modulus) {
     i = i < 0 ? 0 : i;
   } else {
     i %= info->modulus;
   }
-  // A file shorter than its modulus is a broken build of the lists, which `lists check` refuses.
-  if (i >= static_cast<int>(answers.lines.size())) return std::string(trimView(answers.lines.back()));
   return std::string(trimView(answers.lines[static_cast<std::size_t>(i)]));
 }
 

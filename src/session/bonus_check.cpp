@@ -9,7 +9,9 @@ namespace tessarine {
 
 bool bonusCheck(ContentView& view, DataManagers& stores, const Clock& clock,
                 const std::function<void()>& refreshBothFlagsFalse) {
-  view.bonusEntries = stores.bonusDM.getAllEntries();
+  const std::optional<std::vector<Entry>> bonus = stores.bonusDM.fetchEntries();
+  if (!bonus) return false;  // an unreadable store is not a missing record: no second present
+  view.bonusEntries = *bonus;
   if (!view.bonusEntries.empty()) {
     if (view.removeBonusRecord) {
       stores.bonusDM.deleteEntry(view.bonusEntries.front());

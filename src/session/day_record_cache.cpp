@@ -25,11 +25,15 @@ void DayRecordCache::add(Entry entry, std::size_t storeIndex, std::ostream& log)
 }
 
 void DayRecordCache::fetch(const CoreDataManager& coreDM, std::ostream& log) {
-  records_.clear();
-  records_.shrink_to_fit();
+  std::vector<DayRecord> previous;
+  previous.swap(records_);
   records_.reserve(coreDM.countEntries());
   storeSize_ = 0;
-  coreDM.forEachEntry([&](Entry&& entry) { add(std::move(entry), storeSize_++, log); });
+  if (!coreDM.forEachEntry([&](Entry&& entry) { add(std::move(entry), storeSize_++, log); })) {
+    // A locked or failing store is not an empty one: keep the last good copy and stay stale.
+    records_.swap(previous);
+    return;
+  }
   pendingSaves_.clear();
   pendingDeletes_.clear();
   stale_ = false;

@@ -16,13 +16,17 @@ namespace tessarine {
 class DayRecordCache {
  public:
   // The records in creation order. Each unreadable record is named once on `log` and left in the
-  // store.
+  // store. When the store cannot be read (another process holds it), the last good copy comes
+  // back, still stale, and is tried again at the next call.
   const std::vector<DayRecord>& records(const CoreDataManager& coreDM, std::ostream& log);
 
   // A record the store saved; its id is above every id before it.
   void saved(const Entry& entry) { pendingSaves_.push_back(entry); }
   void deleted(std::int64_t id) { pendingDeletes_.insert(id); }
   void invalidate() { stale_ = true; }
+  // Whether the records match the store. Nothing may be written or deleted on a stale copy: a
+  // record missing from it is not a record missing from the store.
+  bool fresh() const { return !stale_; }
 
  private:
   void fetch(const CoreDataManager& coreDM, std::ostream& log);

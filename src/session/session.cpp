@@ -12,8 +12,8 @@
 namespace tessarine {
 
 Session::Session(const std::filesystem::path& dataDirectory, const Lists& lists, const Clock& clock,
-                 RandomSource& random, std::ostream& log)
-    : stores_(dataDirectory), lists_(lists), clock_(clock), random_(random), log_(log) {}
+                 RandomSource& random, std::ostream& log, std::chrono::milliseconds busyTimeout)
+    : stores_(dataDirectory, busyTimeout), lists_(lists), clock_(clock), random_(random), log_(log) {}
 
 int Session::today() const {
   return daysFromApril1st(clock_) - 1;
@@ -21,7 +21,7 @@ int Session::today() const {
 
 void Session::launch() {
   if (view_.gameType != "Ó") return;
-  padDayRecords(stores_.coreDM);
+  padDayRecords(stores_.coreDM, log_);
   records_.invalidate();
   loadSettings(view_, stores_.settingDM, stores_.coreDM, clock_);
   applyCatalogue(view_);
@@ -76,21 +76,37 @@ void Session::changePhase(ScenePhase phase) {
   }
 }
 
+bool Session::boardMatchesStore() {
+  if (recordsRead_) return true;
+  // The board was drawn from a stale copy (the store was locked): a record written now could
+  // stand beside, and by the duplicate rule replace, a game the board does not show. Read again
+  // instead; the player sees the stored game, or the line says why not.
+  reloadDay(true, true);
+  if (!recordsRead_) std::cout << "Failed to save day the day records could not be read" << std::endl;
+  return false;
+}
+
 void Session::storeDay(int score, bool rejected) {
-  if (const auto saved = tessarine::storeDay(view_, stores_.coreDM, clock_, score, rejected))
+  if (!recordsRead_) return;
+  if (const auto saved = tessarine::storeDay(view_, stores_.coreDM, clock_, score, rejected)) {
     records_.saved(*saved);
+    shownRecords_.insert(saved->id);
+  }
 }
 
 void Session::rewriteShownRecord(const DayRecord& record, int score) {
+  if (!recordsRead_) return;
   // Delete and write in one step, so a failed write never loses the day.
   const int day = std::max(0, view_.latestDateIndex + view_.activeDate);
   if (const auto saved = stores_.coreDM.replaceEntry(record.entry, dayRecordOf(view_, day, score, false))) {
     records_.deleted(record.entry.id);
     records_.saved(*saved);
+    shownRecords_.insert(saved->id);
   }
 }
 
 void Session::deleteRecord(const DayRecord& record) {
+  if (!recordsRead_) return;
   if (stores_.coreDM.deleteEntry(record.entry)) records_.deleted(record.entry.id);
 }
 

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <iostream>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "catalogue/clock.h"
@@ -23,8 +24,10 @@ class Session {
  public:
   // Opens the four stores in `dataDirectory` (a store that will not open throws FatalError).
   // Lines about skipped day records go to `log`; the stores print their own failure lines.
+  // `busyTimeout` is how long a store waits for a lock held by another process.
   Session(const std::filesystem::path& dataDirectory, const Lists& lists, const Clock& clock,
-          RandomSource& random, std::ostream& log = std::cout);
+          RandomSource& random, std::ostream& log = std::cout,
+          std::chrono::milliseconds busyTimeout = kBusyTimeout);
 
   const ContentView& view() const { return view_; }
   const Lists& lists() const { return lists_; }
@@ -82,6 +85,7 @@ class Session {
   void finishWonRow();
   void rewriteShownRecord(const DayRecord& record, int score);
   void deleteRecord(const DayRecord& record);
+  bool boardMatchesStore();
   int neededEntries() const;
   const std::vector<std::string>& dateTexts();
   friend class SessionReplay;  // the second half of the refresh
@@ -95,6 +99,10 @@ class Session {
   DayRecordCache records_;
   StatisticsPass statistics_;
   bool rowJustAccepted_ = false;  // the refresh narrows the hints only after a new accepted row
+  bool recordsRead_ = false;      // the last refresh read the day store, not a stale copy
+  // Records this session showed or wrote: when a newer one replaces one of them, that is a guess
+  // moving the day on. Replacing any other record is news to the player and gets a line.
+  std::unordered_set<std::int64_t> shownRecords_;
 
   struct DateTextKey {
     int today = -1, minimumDay = -1;

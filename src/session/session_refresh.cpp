@@ -44,6 +44,7 @@ void Session::reloadDay(bool recomputeStreaks, bool recomputeLatest) {
   v.currentPosition = 0;
   v.numCellEntries = 0;
   const std::vector<DayRecord>& records = records_.records(stores_.coreDM, log_);
+  recordsRead_ = records_.fresh();
   v.latestDateIndex = daysNow - 1;
   v.answer = shownAnswer(v, lists_);
   // Taken from today's answer once today is known, so the first refresh after launch (and after
@@ -80,6 +81,7 @@ void Session::reloadDay(bool recomputeStreaks, bool recomputeLatest) {
   if (recomputeLatest) statistics_.latestDates(v, scope);
   if (recomputeStreaks) statistics_.streaks(v, scope);
 
+  if (scan.lastMatch >= 0) shownRecords_.insert(records[scan.lastMatch].entry.id);
   SessionReplay(*this).run(scan, records);
 
   // A day and game type has one record after a refresh: submissions write a new record and
@@ -87,6 +89,10 @@ void Session::reloadDay(bool recomputeStreaks, bool recomputeLatest) {
   if (!scan.olderMatches.empty()) {
     if (v.latestUnfinishedDate == v.activeDate) v.latestUnfinishedDate = 1;
     for (const int older : scan.olderMatches) {
+      const Entry& entry = records[older].entry;
+      if (recordsRead_ && !shownRecords_.contains(entry.id))
+        log_ << "Deleted day record \"" << printableRecord(entry.text)
+             << "\": a later record holds the same day\n";
       deleteRecord(records[older]);
       v.gamesPlayed -= 1;
     }

@@ -1,5 +1,7 @@
 #include "session/session_replay.h"
 
+#include <algorithm>
+
 #include "catalogue/catalogue.h"
 #include "engine/hints.h"
 #include "engine/keypad_colors.h"
@@ -39,7 +41,8 @@ void SessionReplay::run(const ReplayScan& scan, const std::vector<DayRecord>& re
   const DayRecord* shown = scan.lastMatch >= 0 ? &records[scan.lastMatch] : nullptr;
   const std::vector<std::string> tiles = shown ? splitSymbols(shown->tileText()) : std::vector<std::string>{};
   const int firstCell = shown ? shown->firstCell : 6;
-  const int storedCells = static_cast<int>(tiles.size()) - firstCell;
+  // The reader refuses records with more rows than the game; the bound keeps the marks safe anyway.
+  const int storedCells = std::min(static_cast<int>(tiles.size()) - firstCell, v.gameRows * v.gameLetters);
 
   if (storedCells < 1) {
     if (v.prepopulate && scan.prepopulateSource >= 0) prepopulate(records[scan.prepopulateSource]);

@@ -28,7 +28,7 @@ void Session::knowledgeUpdate() {
 
 void Session::submitGuess() {
   ContentView& v = view_;
-  if (!v.showKeypad) return;
+  if (!v.showKeypad || !boardMatchesStore()) return;
   v.activeWord = rowWord(v, v.activeRow);
   if (v.numCellEntries == 0) return;
   const int markRow = v.activeRow - 1;  // marks are indexed by board row - 1
@@ -87,7 +87,7 @@ void Session::dismissHintsAlert() {
 void Session::confirmHint() {
   ContentView& v = view_;
   v.showHintsAlert = false;
-  if (!v.showKeypad || v.activeRow < 1) return;
+  if (!v.showKeypad || v.activeRow < 1 || !boardMatchesStore()) return;
   const std::string hint = drawHint(v, v.answer, random_);
   if (rowWord(v, v.activeRow) != hint) {
     const std::vector<std::string> symbols = splitSymbols(hint);

@@ -13,8 +13,15 @@ namespace {
 // First run, or a store that lost a record: start again from two fresh records.
 void createSettings(ContentView& view, SettingsDataManager& settingDM, CoreDataManager& coreDM,
                     const Clock& clock) {
+  const std::optional<std::vector<Entry>> days = coreDM.fetchEntries();
+  if (!days) {
+    // Whether this player has history is unknown: keep every day open for now and write nothing,
+    // so that the next launch decides with the day records in hand.
+    view.minimumDayIndex = 0;
+    return;
+  }
   if (view.settingEntries.size() == 1) settingDM.deleteEntry(view.settingEntries.front());
-  view.cellEntries = coreDM.getAllEntries();
+  view.cellEntries = *days;
   std::string minimumDay = "0000";
   if (view.cellEntries.empty()) {
     // A new player gets the last fifteen days; one with day records keeps them all open.
@@ -44,7 +51,10 @@ void readSettings(ContentView& view, SettingsDataManager& settingDM) {
   if (options.empty()) options = view.gameType.empty() ? std::string("Ó") : view.gameType;
   const std::string full = lengthenedOptions(options);
   view.options() = parseOptionsRecord(full);
-  if (twoRecords && full != options) settingDM.updateEntry(optionsEntry, full);
+  // A damaged record is read with defaults but kept as it is, for the next save of the options.
+  const bool damaged = full.rfind(view.gameType, 0) != 0;
+  if (damaged) std::cout << "Unreadable game type in the options record: playing C" << std::endl;
+  if (twoRecords && full != options && !damaged) settingDM.updateEntry(optionsEntry, full);
   if (!twoRecords) settingDM.deleteEntry(entries[1]);
   view.settingEntries = settingDM.getAllEntries();
 }
@@ -53,11 +63,18 @@ void readSettings(ContentView& view, SettingsDataManager& settingDM) {
 
 void loadSettings(ContentView& view, SettingsDataManager& settingDM, CoreDataManager& coreDM,
                   const Clock& clock) {
-  view.settingEntries = settingDM.getAllEntries();
-  if (view.settingEntries.size() < 2) {
-    createSettings(view, settingDM, coreDM, clock);
+  const std::optional<std::vector<Entry>> entries = settingDM.fetchEntries();
+  if (!entries) {
+    // A locked or unreadable store is not a first run: play on with the defaults, write nothing.
+    view.settingEntries.clear();
+    view.minimumDayIndex = 0;
   } else {
-    readSettings(view, settingDM);
+    view.settingEntries = *entries;
+    if (view.settingEntries.size() < 2) {
+      createSettings(view, settingDM, coreDM, clock);
+    } else {
+      readSettings(view, settingDM);
+    }
   }
   if (view.gameType == "Ó") view.gameType = "C";
 }

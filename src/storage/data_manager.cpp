@@ -83,12 +83,13 @@ bool createSchema(sqlite3* db) {
 }  // namespace
 
 DataManager::DataManager(const std::filesystem::path& directory, std::string storeName,
-                         std::string openFailureMessage)
+                         std::string openFailureMessage, std::chrono::milliseconds busyTimeout)
     : storeName_(std::move(storeName)) {
   std::error_code ignored;
   std::filesystem::create_directories(directory, ignored);
   const std::string path = (directory / (storeName_ + ".sqlite")).string();
   int rc = sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+  if (rc == SQLITE_OK) rc = sqlite3_busy_timeout(db_, static_cast<int>(busyTimeout.count()));
   if (rc == SQLITE_OK) {
     // One table of one text attribute; rowid order is creation order, and an update keeps it.
     // An existing store is only read here: opening it writes nothing.
@@ -108,19 +109,28 @@ DataManager::~DataManager() {
   sqlite3_close(db_);
 }
 
-std::vector<Entry> DataManager::getAllEntries() const {
+std::optional<std::vector<Entry>> DataManager::fetchEntries() const {
   std::vector<Entry> entries;
-  if (!forEachEntry([&entries](Entry&& entry) { entries.push_back(std::move(entry)); })) entries.clear();
+  if (!forEachEntry([&entries](Entry&& entry) { entries.push_back(std::move(entry)); })) return std::nullopt;
   return entries;
+}
+
+std::vector<Entry> DataManager::getAllEntries() const {
+  return fetchEntries().value_or(std::vector<Entry>{});
 }
 
 bool DataManager::forEachEntry(const std::function<void(Entry&&)>& visit) const {
   Statement statement(db_, "SELECT id, text FROM entries ORDER BY id");
-  if (!statement.ok()) return false;
-  int rc;
-  while ((rc = sqlite3_step(statement.get())) == SQLITE_ROW)
-    visit(rowEntry(statement.get()));
-  return rc == SQLITE_DONE;
+  int rc = SQLITE_ERROR;
+  if (statement.ok()) {
+    while ((rc = sqlite3_step(statement.get())) == SQLITE_ROW)
+      visit(rowEntry(statement.get()));
+  }
+  if (rc != SQLITE_DONE) {
+    std::cout << "Failed to fetch " << storeName_ << " " << sqlite3_errmsg(db_) << std::endl;
+    return false;
+  }
+  return true;
 }
 
 std::size_t DataManager::countEntries() const {
@@ -150,6 +160,23 @@ bool DataManager::updateEntry(const Entry& entry, const std::string& text) {
         return run(db_, "UPDATE entries SET text = ?1 WHERE id = ?2", [&](sqlite3_stmt* s) {
           return bindText(s, 1, text) && sqlite3_bind_int64(s, 2, entry.id) == SQLITE_OK;
         });
+      },
+      "Failed to save context ");
+}
+
+bool DataManager::updateEntries(const std::vector<Entry>& entries) {
+  return write(
+      db_,
+      [&] {
+        Statement statement(db_, "UPDATE entries SET text = ?1 WHERE id = ?2");
+        if (!statement.ok()) return false;
+        for (const Entry& entry : entries) {
+          sqlite3_stmt* s = statement.get();
+          if (!bindText(s, 1, entry.text) || sqlite3_bind_int64(s, 2, entry.id) != SQLITE_OK ||
+              sqlite3_step(s) != SQLITE_DONE || sqlite3_reset(s) != SQLITE_OK)
+            return false;
+        }
+        return true;
       },
       "Failed to save context ");
 }

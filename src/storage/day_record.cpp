@@ -48,8 +48,9 @@ class Characters {
   std::size_t count_ = 0;
 };
 
-// The record as one printable line: control and non-ASCII bytes are escaped.
-std::string printable(std::string_view text) {
+}  // namespace
+
+std::string printableRecord(std::string_view text) {
   static constexpr char kHex[] = "0123456789ABCDEF";
   std::string line;
   for (const char c : text) {
@@ -64,6 +65,8 @@ std::string printable(std::string_view text) {
   }
   return line;
 }
+
+namespace {
 
 std::string problemAt(std::size_t position, const std::string& what) {
   return "character " + std::to_string(position) + " " + what;
@@ -149,7 +152,7 @@ std::optional<DayRecord> parseDayRecord(Entry entry, std::string& problem) {
   }
   const GameTypeInfo* type = findGameType(symbols.at(dayDigits));
   if (type == nullptr) {
-    problem = "unknown game type \"" + printable(symbols.at(dayDigits)) + "\"";
+    problem = "unknown game type \"" + printableRecord(symbols.at(dayDigits)) + "\"";
     return std::nullopt;
   }
   const std::string_view scoreSymbol = symbols.at(dayDigits + 1);
@@ -170,14 +173,22 @@ std::optional<DayRecord> parseDayRecord(Entry entry, std::string& problem) {
       return std::nullopt;
     }
   }
+  const std::string_view tileText = trimView(symbols.run(0, kTileTextLength + dayDigits - 4));
+  const std::size_t cells = symbolCount(tileText) - std::min(symbolCount(tileText), dayDigits + 2);
+  const auto boardCells = static_cast<std::size_t>(type->tiles * type->rows);
+  if (cells > boardCells) {
+    // A stray byte late in the cells would be replayed as rows the board does not have.
+    problem = std::to_string(cells) + " cells, more than the " + std::to_string(boardCells) +
+              " of game type " + std::string(symbols.at(dayDigits));
+    return std::nullopt;
+  }
   DayRecord record;
   record.keyLength = static_cast<std::uint32_t>(symbols.byteOffset(dayDigits + 1));
   record.dayIndex = parseIntOr(symbols.run(0, dayDigits), 0);
   record.gameType = symbols.at(dayDigits);
   record.score = score;
-  const std::string_view tiles = trimView(symbols.run(0, kTileTextLength + dayDigits - 4));
-  record.tileBegin = static_cast<std::uint32_t>(tiles.data() - entry.text.data());
-  record.tileLength = static_cast<std::uint32_t>(tiles.size());
+  record.tileBegin = static_cast<std::uint32_t>(tileText.data() - entry.text.data());
+  record.tileLength = static_cast<std::uint32_t>(tileText.size());
   record.marksBegin = static_cast<std::uint32_t>(symbols.byteOffset(marksFrom));
   record.firstCell = static_cast<int>(dayDigits) + 2;
   record.entry = std::move(entry);
@@ -193,7 +204,8 @@ std::vector<DayRecord> readDayRecords(const CoreDataManager& coreDM, std::ostrea
     if (auto record = parseDayRecord(entries[i], problem)) {
       records.push_back(std::move(*record));
     } else {
-      log << "Skipped day record " << i << " \"" << printable(entries[i].text) << "\": " << problem << '\n';
+      log << "Skipped day record " << i << " \"" << printableRecord(entries[i].text) << "\": " << problem
+          << '\n';
     }
   }
   return records;
@@ -212,17 +224,23 @@ std::vector<std::string> restoredCells(const DayRecord& record) {
   return symbols;
 }
 
-void padDayRecords(CoreDataManager& coreDM) {
+void padDayRecords(CoreDataManager& coreDM, std::ostream& log) {
   // Only the first record decides, so a current store is not read whole twice at launch.
   const std::optional<Entry> first = coreDM.firstEntry();
   if (!first || symbolCount(first->text) >= static_cast<std::size_t>(kDayRecordLength)) return;
-  const std::vector<Entry> entries = coreDM.getAllEntries();
-  for (const Entry& entry : entries) {
-    const std::size_t length = symbolCount(entry.text);
-    std::string padded = entry.text;
-    if (length < static_cast<std::size_t>(kDayRecordLength)) padded.append(kDayRecordLength - length, ' ');
-    coreDM.replaceEntry(entry, padded);
+  const std::vector<Entry> entries = coreDM.fetchEntries().value_or(std::vector<Entry>{});
+  std::vector<Entry> padded;
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    const std::size_t length = symbolCount(entries[i].text);
+    if (length >= static_cast<std::size_t>(kDayRecordLength)) continue;
+    Entry lengthened{entries[i].id, entries[i].text + std::string(kDayRecordLength - length, ' ')};
+    std::string problem;
+    if (!parseDayRecord(lengthened, problem)) continue;
+    log << "Padded day record " << i << " \"" << printableRecord(entries[i].text) << "\" to "
+        << kDayRecordLength << " characters\n";
+    padded.push_back(std::move(lengthened));
   }
+  if (!padded.empty()) coreDM.updateEntries(padded);
 }
 
 }  // namespace tessarine

@@ -60,9 +60,14 @@ std::string recordCharacter(const DayRecord& record, int position);
 // game was not begun.
 std::vector<std::string> restoredCells(const DayRecord& record);
 
-// Brings records of an older, shorter format to full length at launch. Only the first record is
-// looked at: when it is long enough, all are taken to be current.
-void padDayRecords(CoreDataManager& coreDM);
+// Brings records of an older, shorter format to full length at launch, all in one transaction
+// that keeps their order. Only the first record is looked at: when it is long enough, all are
+// taken to be current. Each padded record is named in one line on `log`; a record that would
+// still not read once padded (empty, not UTF-8, no day) is left as it is for the reader to report.
+void padDayRecords(CoreDataManager& coreDM, std::ostream& log);
+
+// A record as one printable line: control and non-ASCII bytes are escaped.
+std::string printableRecord(std::string_view text);
 
 // The mark digit of one row, the first that applies of 7, 6/5, 3/2, 4, 1, 0.
 char rowMarkDigit(const RowMarkSet& marks, int row, bool smartModeFlag);

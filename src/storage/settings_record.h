@@ -18,7 +18,7 @@ std::string optionsRecord(const Options& options);
 // Older versions stored fewer flags: the missing ones take their defaults.
 std::string lengthenedOptions(const std::string& record);
 
-// The options of a full-length record.
+// The options of a record, lengthened first. A game type that does not read is "C".
 Options parseOptionsRecord(const std::string& record);
 
 // Rewrites record 0; false when there is no record 0 or the write failed.

@@ -34,3 +34,7 @@ engine_cli_test(hints_spanish "^2\nNIÑA\nPIÑA\n$" hints W NIÑA AÑOS)
 
 add_test(NAME cli.engine.usage COMMAND tessarine-cli score C CRANE CARGOES ${ENGINE_LISTS})
 set_tests_properties(cli.engine.usage PROPERTIES WILL_FAIL TRUE)
+
+# "--" ends the options: a guess may start with "--".
+add_test(NAME cli.engine.double_dash COMMAND tessarine-cli valid ${ENGINE_LISTS} C -- --RAN)
+set_tests_properties(cli.engine.double_dash PROPERTIES PASS_REGULAR_EXPRESSION "^invalid\n$")

@@ -36,3 +36,10 @@ session_cli_test(smart_mode
 session_cli_test(hints
   "option wantHints Y\\nguess CRANE\\nstate hintsCountLine\\nguess TOWEL\\nhint\\nstate scoreLine\\nstate singleHint\\n"
   "hintsCountLine=4 available HINTS.\nscoreLine=Birdie\nsingleHint=010000\n$")
+
+# A data folder that cannot be made is the store's fatal error, not an abort.
+add_test(NAME cli.session.data_not_creatable
+         COMMAND tessarine-cli session --data ${CMAKE_CURRENT_SOURCE_DIR}/CMakeLists.txt/data
+                 --resources ${SESSION_FIXTURE} --today 2024-01-10)
+set_tests_properties(cli.session.data_not_creatable PROPERTIES
+                     PASS_REGULAR_EXPRESSION "^Fatal error: Core Data Store failed .+\n$")

@@ -40,7 +40,11 @@ struct EngineBoard {
   EngineBoard(const std::string& type, const std::string& answer,
               const std::vector<std::string>& validity = {}) {
     const GameTypeInfo* info = findGameType(type);
-    if (!info->answerFile.empty()) source.files[std::string(info->answerFile)] = answer + "\n";
+    // Every day of the schedule has the same answer: an answer file must cover its modulus.
+    std::string answers;
+    for (int day = 0; day < info->modulus; ++day)
+      answers += answer + "\n";
+    if (!info->answerFile.empty()) source.files[std::string(info->answerFile)] = answers;
     if (!info->validityFile.empty()) source.files[std::string(info->validityFile)] = joinLines(validity);
     view.gameType = type;
     applyCatalogue(view);

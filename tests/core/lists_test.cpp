@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <optional>
@@ -62,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(Lists, AnswerOfDay,
 
 TEST(Lists, AnswerIsTrimmed) {
   MemorySource source;
-  source.files["5LetterAnswers"] = " CRANE \r\nSLATE\n";
+  source.files["5LetterAnswers"] = " CRANE \r\n" + numberedLines(3653);
   const Lists lists(source);
   EXPECT_EQ(lists.answer("C", 0), "CRANE");
 }
@@ -88,11 +91,18 @@ TEST(Lists, MissingFileIsFatalWithItsName) {
        "Could not load 3DigitPrimes.txt from bundle."},
       {"translation", [](const Lists& l) { l.translation("X", "PERRO"); },
        "Could not load 5LetterTranslation.txt from bundle."},
+      // An answer file shorter than its schedule, or empty, leaves days that can never be won.
+      {"short answers", [](const Lists& l) { l.answer("C", 0); },
+       "Could not load 5LetterAnswers.txt from bundle."},
+      {"empty answers", [](const Lists& l) { l.answer("2", 0); },
+       "Could not load 4GLetterAnswers.txt from bundle."},
   };
   for (const auto& c : cases) {
     MemorySource source;
     source.files["3LetterWords"] = "CAT\n";
     source.files["5LetterWords"] = "CRANE\n\xC3(\n";  // a broken Ñ: the text does not decode
+    source.files["5LetterAnswers"] = numberedLines(3653);
+    source.files["4GLetterAnswers"] = "";
     const Lists lists(source);
     try {
       c.use(lists);
@@ -105,7 +115,7 @@ TEST(Lists, MissingFileIsFatalWithItsName) {
 
 TEST(Lists, EachFileIsReadOnce) {
   MemorySource source;
-  source.files["5LetterAnswers"] = "CRANE\nSLATE\n";
+  source.files["5LetterAnswers"] = numberedLines(3654);
   source.files["5LetterWords"] = "CRANE a large bird\nSLATE a rock\n";
   const Lists lists(source);
   for (int day = 0; day < 20; ++day) {
@@ -146,6 +156,15 @@ TEST(Lists, WordListsCompareTheFirstCharactersOfALine) {
   EXPECT_FALSE(lists.containsLine("3DigitPrimes", "10"));
   EXPECT_EQ(lists.definition("5LetterWords", "CRANE"), "a large wading bird");
   EXPECT_EQ(lists.definition("5LetterWords", "SLATE"), "");
+}
+
+TEST(Lists, AFolderInPlaceOfAListIsMissing) {
+  const auto folder =
+      std::filesystem::temp_directory_path() / ("tessarine-lists-" + std::to_string(::getpid()));
+  std::filesystem::create_directories(folder / "5LetterWords.txt");
+  const DirectoryListSource source(folder);
+  EXPECT_EQ(source.read("5LetterWords"), std::nullopt);
+  std::filesystem::remove_all(folder);
 }
 
 }  // namespace

@@ -14,6 +14,7 @@ namespace {
 using testing_support::reopenedTexts;
 using testing_support::TempDir;
 using testing_support::texts;
+using Texts = std::vector<std::string>;
 
 const std::string kNoCells(kRecordCells, ' ');
 
@@ -164,7 +165,7 @@ TEST(DayRecord, PaddingLengthensOldRecordsInPlaceOfOrder) {
     CoreDataManager coreDM(dir.path());
     coreDM.saveEntry(oldFirst);
     coreDM.saveEntry(oldSecond);
-    padDayRecords(coreDM);
+    padDayRecords(coreDM, std::cout);
   }
   const auto padded = reopenedTexts<CoreDataManager>(dir.path());
   ASSERT_EQ(padded.size(), 2u);
@@ -188,8 +189,54 @@ TEST(DayRecord, PaddingLooksOnlyAtTheFirstRecord) {
   const std::vector<std::string> stored = {"0010C1CRANE" + std::string(51, ' '), "0011C0"};
   for (const auto& text : stored)
     coreDM.saveEntry(text);
-  padDayRecords(coreDM);
+  padDayRecords(coreDM, std::cout);
   EXPECT_EQ(texts(coreDM), stored);
+}
+
+// A failure between two records (the process killed, the disk full) must leave the old records
+// as they were and in their order, and the next launch pads them all.
+TEST(DayRecord, PaddingIsAllOrNothingAndKeepsTheOrder) {
+  TempDir dir;
+  const Texts old = {"0010C1CRANE", "0011C0SLATE", "0012C2TOWELWIELD", "0013C0"};
+  Texts padded;
+  for (const auto& text : old)
+    padded.push_back(text + std::string(62 - text.size(), ' '));
+  {
+    CoreDataManager coreDM(dir.path());
+    for (const auto& text : old)
+      coreDM.saveEntry(text);
+    testing_support::OtherConnection other(dir.path() / "TessarineCoreDataModel.sqlite");
+    for (const char* event : {"INSERT", "UPDATE"}) {
+      const std::string trigger =
+          std::string("CREATE TRIGGER fail_") + event + " BEFORE " + event +
+          " ON entries WHEN NEW.text LIKE '0012%' BEGIN SELECT RAISE(ABORT, 'full'); END;";
+      ASSERT_TRUE(other.exec(trigger.c_str()));
+    }
+    testing::internal::CaptureStdout();
+    std::ostringstream log;
+    padDayRecords(coreDM, log);
+    EXPECT_EQ(testing::internal::GetCapturedStdout().rfind("Failed to save", 0), 0u);
+    EXPECT_EQ(reopenedTexts<CoreDataManager>(dir.path()), old);
+    ASSERT_TRUE(other.exec("DROP TRIGGER fail_INSERT; DROP TRIGGER fail_UPDATE;"));
+  }
+  CoreDataManager coreDM(dir.path());
+  std::ostringstream log;
+  padDayRecords(coreDM, log);
+  EXPECT_EQ(reopenedTexts<CoreDataManager>(dir.path()), padded);
+  EXPECT_EQ(log.str().find("Padded day record 0 \"0010C1CRANE\""), 0u) << log.str();
+}
+
+// Padding never turns a record it cannot read into blanks: the reader names it instead.
+TEST(DayRecord, PaddingLeavesUnreadableRecordsAsTheyAre) {
+  TempDir dir;
+  CoreDataManager coreDM(dir.path());
+  const Texts stored = {"", "\xC3", "0011X", "0012C0CRANE"};
+  for (const auto& text : stored)
+    coreDM.saveEntry(text);
+  std::ostringstream log;
+  padDayRecords(coreDM, log);
+  EXPECT_EQ(texts(coreDM), (Texts{"", "\xC3", "0011X", "0012C0CRANE" + std::string(51, ' ')}));
+  EXPECT_EQ(log.str(), "Padded day record 3 \"0012C0CRANE\" to 62 characters\n");
 }
 
 }  // namespace

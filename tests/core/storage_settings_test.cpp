@@ -112,9 +112,17 @@ INSTANTIATE_TEST_SUITE_P(
             "EmptyOptionsTakeTheStartType", {"0003", ""}, false, 3, "C", "ÓNNYYYNNY", {"0003", "ÓNNYYYNNY"}},
         LoadCase{
             "ThreeRecordsUseTheThird", {"0005", "CNN", "DYY"}, false, 5, "D", "DYYYYYNNY", {"0005", "DYY"}},
+        // A damaged byte or an unknown type reads as the default game and is not written over.
+        LoadCase{"StrayContinuationByte", {"0002", "\x80"}, false, 2, "C", "CNNYYYNNY", {"0002", "\x80"}},
+        LoadCase{"TruncatedEnye", {"0002", "\xC3YY"}, false, 2, "C", "CYYYYYNNY", {"0002", "\xC3YY"}},
+        LoadCase{"UnknownType", {"0002", "?NNYYYNNY"}, false, 2, "C", "CNNYYYNNY", {"0002", "?NNYYYNNY"}},
         LoadCase{
             "NoMinimumDaySwitch", {"0100", "CNNYYYNNY"}, true, 0, "C", "CNNYYYNNY", {"0000", "CNNYYYNNY"}}),
     [](const auto& info) { return std::string(info.param.name); });
+
+TEST(Settings, ARecordWithNothingLeftReadsAsTheDefaults) {
+  EXPECT_EQ(optionsRecord(parseOptionsRecord("")), "CNNYYYNNY");
+}
 
 TEST(Settings, SavedOptionsAndMinimumDaySurviveAReopen) {
   TempDir dir;

@@ -45,7 +45,7 @@ class FailedWrite : public testing::TestWithParam<FailureCase> {};
 
 TEST_P(FailedWrite, PrintsTheLineAndLeavesTheStoreAsItWas) {
   TempDir dir;
-  CoreDataManager store(dir.path());
+  CoreDataManager store(dir.path(), std::chrono::milliseconds(0));
   ASSERT_TRUE(store.saveEntry("first"));
   ASSERT_TRUE(store.saveEntry("second"));
   {

@@ -18,7 +18,8 @@ EngineBoard::EngineBoard(const Args& args, const std::string& type, const std::s
   board_.typeOfGame = std::string(info->typeOfGame);
   board_.gameLetters = info->tiles;
   board_.gameRows = info->rows;
-  board_.answer = Answer(lists_->answer(type, 0));
+  // A chosen answer stands for itself; it is no schedule the lists must cover.
+  board_.answer = Answer(info->answerFile.empty() ? lists_->answer(type, 0) : answer);
   if (!answer.empty()) requireRowLength(answer);
 }
 

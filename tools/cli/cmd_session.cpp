@@ -42,7 +42,7 @@ class Runner {
         lists_(*source_),
         clock_(startClock(args)),
         random_(args.option("seed") ? parseInt(*args.option("seed"), "--seed") : 1) {
-    std::filesystem::create_directories(directory_);
+    // The stores make the folder themselves; one that cannot be made is their fatal error.
     restart();
   }
 

@@ -31,9 +31,12 @@ int main(int argc, char** argv) {
   }
   std::vector<std::string> positional;
   std::vector<std::pair<std::string, std::string>> options;
+  bool optionsEnded = false;  // after "--" every word is positional, even one such as "--ABC"
   for (int i = 2; i < argc; ++i) {
     std::string word = argv[i];
-    if (word.rfind("--", 0) == 0 && word.size() > 2) {
+    if (!optionsEnded && word == "--") {
+      optionsEnded = true;
+    } else if (!optionsEnded && word.rfind("--", 0) == 0 && word.size() > 2) {
       std::string name = word.substr(2);
       if (isSwitch(name)) {
         options.emplace_back(name, "");
