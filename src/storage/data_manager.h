@@ -34,6 +34,8 @@ class DataManager {
   // Deletes the record and saves `text` as a new last record in one transaction, so that a failure
   // half-way can never lose the record. Day records move this way, never in place.
   std::optional<Entry> replaceEntry(const Entry& entry, const std::string& text);
+  // The same with several new last records, saved in order: a record moves behind new ones.
+  bool replaceEntry(const Entry& entry, const std::vector<std::string>& texts);
 
   const std::string& storeName() const { return storeName_; }
 

@@ -64,6 +64,9 @@ class Runner {
       Options options = s.options();
       options.*option->field = value == "Y";
       s.applyOptions(options);
+    } else if (verb == "colourblind") {
+      if (argument != "Y" && argument != "N") throw CommandError{"usage: colourblind Y|N"};
+      s.applyPresentation({.colourBlind = argument == "Y"});
     } else if (verb == "sheet") {
       sheet_.run(s, argument);
     } else if (verb == "restart") {
