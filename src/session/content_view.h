@@ -13,6 +13,7 @@
 #include "statistics/statistics.h"
 #include "storage/entry.h"
 #include "storage/options.h"
+#include "storage/presentation.h"
 
 namespace tessarine {
 
@@ -33,6 +34,9 @@ struct ContentView : Options, Board, Keypad, RowMarkSet, Knowledge, HintState, S
   StatisticsScope statisticsScope() const {
     return {gameType, gameRows, minimumDayIndex, EnglishTranslation, thankYouFlag};
   }
+
+  // Drawing choices kept beside the options; no rule reads them.
+  Presentation presentation;
 
   // Last fetch of each store.
   std::vector<Entry> cellEntries, settingEntries, bonusEntries;

@@ -39,6 +39,13 @@ bool Session::applyOptions(const Options& options) {
   return true;
 }
 
+bool Session::applyPresentation(const Presentation& presentation) {
+  if (presentation == view_.presentation) return false;
+  view_.presentation = presentation;
+  savePresentation(view_, stores_.settingDM);
+  return true;
+}
+
 void Session::computeHintsNow() {
   computeHints(view_, view_, view_, lists_, view_.gameType, view_.latestDateIndex + view_.activeDate);
 }

@@ -39,6 +39,10 @@ class Session {
   // Applies a changed game type or option at once: saves the settings record, applies the
   // catalogue and refreshes. Returns false, and does nothing, when nothing changed.
   bool applyOptions(const Options& options);
+  // How the board is drawn (a pattern per scoring colour for colour-blind players). Changes no
+  // rule, so nothing is refreshed; returns false, and does nothing, when nothing changed.
+  const Presentation& presentation() const { return view_.presentation; }
+  bool applyPresentation(const Presentation& presentation);
   void changePhase(ScenePhase phase);
 
   // Entry and submission.

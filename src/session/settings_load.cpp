@@ -4,11 +4,16 @@
 
 #include "catalogue/calendar.h"
 #include "catalogue/lists.h"
+#include "storage/presentation.h"
 #include "storage/record_text.h"
 #include "storage/settings_record.h"
 
 namespace tessarine {
 namespace {
+
+bool hasPresentationRecord(const std::vector<Entry>& entries) {
+  return entries.size() >= 3 && isPresentationRecord(entries[1].text);
+}
 
 // First run, or a store that lost a record: start again from two fresh records.
 void createSettings(ContentView& view, SettingsDataManager& settingDM, CoreDataManager& coreDM,
@@ -46,6 +51,8 @@ void readSettings(ContentView& view, SettingsDataManager& settingDM) {
     settingDM.updateEntry(entries[0], view.newMinimumDayValue);
   }
   const bool twoRecords = entries.size() == 2;
+  // A second record of three is dropped, unless it holds the drawing choices.
+  const bool presentation = hasPresentationRecord(entries);
   const Entry& optionsEntry = entries[twoRecords ? 1 : 2];
   std::string options(trimView(optionsEntry.text));
   if (options.empty()) options = view.gameType.empty() ? std::string("Ó") : view.gameType;
@@ -54,8 +61,12 @@ void readSettings(ContentView& view, SettingsDataManager& settingDM) {
   // A damaged record is read with defaults but kept as it is, for the next save of the options.
   const bool damaged = full.rfind(view.gameType, 0) != 0;
   if (damaged) std::cout << "Unreadable game type in the options record: playing C" << std::endl;
-  if (twoRecords && full != options && !damaged) settingDM.updateEntry(optionsEntry, full);
-  if (!twoRecords) settingDM.deleteEntry(entries[1]);
+  if ((twoRecords || presentation) && full != options && !damaged) settingDM.updateEntry(optionsEntry, full);
+  if (presentation) {
+    view.presentation = parsePresentationRecord(entries[1].text);
+  } else if (!twoRecords) {
+    settingDM.deleteEntry(entries[1]);
+  }
   view.settingEntries = settingDM.getAllEntries();
 }
 
@@ -84,7 +95,23 @@ void saveOptions(const ContentView& view, SettingsDataManager& settingDM) {
     std::cout << "Failed to save context the settings records are not loaded" << std::endl;
     return;
   }
-  settingDM.updateEntry(view.settingEntries[1], optionsRecord(view));
+  settingDM.updateEntry(view.settingEntries[hasPresentationRecord(view.settingEntries) ? 2 : 1],
+                        optionsRecord(view));
+}
+
+void savePresentation(ContentView& view, SettingsDataManager& settingDM) {
+  std::vector<Entry>& entries = view.settingEntries;
+  if (hasPresentationRecord(entries)) {
+    settingDM.updateEntry(entries[1], presentationRecord(view.presentation));
+  } else if (entries.size() == 2) {
+    // The options record moves behind the new one in the same commit, where older versions look.
+    settingDM.replaceEntry(entries[1],
+                           std::vector<std::string>{presentationRecord(view.presentation), entries[1].text});
+  } else {
+    std::cout << "Failed to save context the settings records are not loaded" << std::endl;
+    return;
+  }
+  entries = settingDM.getAllEntries();
 }
 
 }  // namespace tessarine

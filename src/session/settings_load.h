@@ -13,8 +13,11 @@ namespace tessarine {
 void loadSettings(ContentView& view, SettingsDataManager& settingDM, CoreDataManager& coreDM,
                   const Clock& clock);
 
-// Rewrites record 1 from the session. Without the two records loaded, prints a line and keeps
+// Rewrites the options record from the session. Without the two records loaded, prints a line and keeps
 // the store as it is.
 void saveOptions(const ContentView& view, SettingsDataManager& settingDM);
+
+// Writes the drawing choices, adding their record on the first change.
+void savePresentation(ContentView& view, SettingsDataManager& settingDM);
 
 }  // namespace tessarine

@@ -193,6 +193,19 @@ std::optional<Entry> DataManager::replaceEntry(const Entry& entry, const std::st
   return ok ? saved : std::nullopt;
 }
 
+bool DataManager::replaceEntry(const Entry& entry, const std::vector<std::string>& texts) {
+  return write(
+      db_,
+      [&] {
+        bool ok = remove(entry);
+        std::optional<Entry> saved;
+        for (const std::string& text : texts)
+          ok = ok && insert(text, saved);
+        return ok;
+      },
+      "Failed to save context ");
+}
+
 bool DataManager::insert(const std::string& text, std::optional<Entry>& saved) {
   const bool ok = run(db_, "INSERT INTO entries (text) VALUES (?1)",
                       [&](sqlite3_stmt* s) { return bindText(s, 1, text); });

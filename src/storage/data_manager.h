@@ -53,6 +53,8 @@ class DataManager {
   // Deletes the record and saves `text` as a new last record in one transaction, so that a failure
   // half-way can never lose the record. Day records move this way, never in place.
   std::optional<Entry> replaceEntry(const Entry& entry, const std::string& text);
+  // The same with several new last records, saved in order: a record moves behind new ones.
+  bool replaceEntry(const Entry& entry, const std::vector<std::string>& texts);
 
   // Sets the text of every record given, in place and in one transaction: all or none, and the
   // records keep their order whatever happens half-way.

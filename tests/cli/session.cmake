@@ -1,10 +1,15 @@
 # The session runner on the fixture lists, one fresh data folder per check.
 set(SESSION_FIXTURE ${CMAKE_CURRENT_SOURCE_DIR}/data/session)
 
+# An optional fourth argument names another resources folder.
 function(session_cli_test name script expected)
+  set(resources ${SESSION_FIXTURE})
+  if(ARGC GREATER 3)
+    set(resources ${ARGV3})
+  endif()
   set(data ${CMAKE_CURRENT_BINARY_DIR}/session_cli/${name})
   add_test(NAME cli.session.${name}
-           COMMAND sh -c "rm -rf '${data}' && printf '${script}' | '$<TARGET_FILE:tessarine-cli>' session --data '${data}' --resources '${SESSION_FIXTURE}' --today 2024-01-10 --seed 3")
+           COMMAND sh -c "rm -rf '${data}' && printf '${script}' | '$<TARGET_FILE:tessarine-cli>' session --data '${data}' --resources '${resources}' --today 2024-01-10 --seed 3")
   set_tests_properties(cli.session.${name} PROPERTIES ENVIRONMENT "TZ=America/New_York"
                        PASS_REGULAR_EXPRESSION "${expected}")
 endfunction()

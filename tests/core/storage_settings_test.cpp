@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "session/settings_load.h"
 #include "storage/settings_record.h"
 #include "storage_test_support.h"
@@ -136,6 +138,67 @@ TEST(Settings, SavedOptionsAndMinimumDaySurviveAReopen) {
     EXPECT_TRUE(writeMinimumDay(settingDM, 7));
   }
   EXPECT_EQ(reopenedTexts<SettingsDataManager>(dir.path()), (Texts{"0007", "ÑYNYYYNNN"}));
+}
+
+struct PresentationCase {
+  const char* name;
+  Texts stored;
+  std::function<void(ContentView&, SettingsDataManager&)> change;
+  Texts expected;  // the store afterwards
+  bool colourBlind;
+};
+
+TEST(Presentation, StoredBesideTheOptionsWhereOlderVersionsLook) {
+  const auto none = [](ContentView&, SettingsDataManager&) {};
+  const auto turnOn = [](ContentView& view, SettingsDataManager& settingDM) {
+    view.presentation.colourBlind = true;
+    savePresentation(view, settingDM);
+  };
+  const auto saveSmartMode = [](ContentView& view, SettingsDataManager& settingDM) {
+    view.smartMode = true;
+    saveOptions(view, settingDM);
+  };
+  const PresentationCase cases[] = {
+      {"a store of old stays as it was", {"0009", "BNNYYYNNY"}, none, {"0009", "BNNYYYNNY"}, false},
+      // Read as an older version does, the third record is still the options.
+      {"the first change goes before the options",
+       {"0009", "BNNYYYNNY"},
+       turnOn,
+       {"0009", "#Y", "BNNYYYNNY"},
+       true},
+      {"options are saved behind it",
+       {"0009", "#Y", "BNNYYYNNY"},
+       saveSmartMode,
+       {"0009", "#Y", "BYNYYYNNY"},
+       true},
+      {"a short options record is lengthened behind it",
+       {"0009", "#N", "BN"},
+       none,
+       {"0009", "#N", "BNNYYYNNY"},
+       false},
+      {"a second change rewrites it in place",
+       {"0009", "#N", "BNNYYYNNY"},
+       turnOn,
+       {"0009", "#Y", "BNNYYYNNY"},
+       true},
+      {"a damaged store still loses its second record",
+       {"0009", "XNN", "BNNYYYNNY"},
+       none,
+       {"0009", "BNNYYYNNY"},
+       false},
+  };
+  for (const PresentationCase& c : cases) {
+    TempDir dir;
+    {
+      Launch launch(dir.path(), c.stored, {}, {2024, 1, 10, 12});
+      SettingsDataManager settingDM(dir.path());
+      c.change(launch.view, settingDM);
+    }
+    EXPECT_EQ(reopenedTexts<SettingsDataManager>(dir.path()), c.expected) << c.name;
+    const Launch again(dir.path(), {}, {}, {2024, 1, 10, 12});
+    EXPECT_EQ(again.view.presentation.colourBlind, c.colourBlind) << c.name;
+    EXPECT_EQ(again.view.gameType, "B") << c.name;
+  }
 }
 
 }  // namespace

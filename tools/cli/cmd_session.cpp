@@ -7,16 +7,13 @@
 #include "catalogue/calendar.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/fatal_error.h"
+#include "cli/cmd_session_sheet.h"
 #include "cli/cmd_session_view.h"
 #include "cli/command.h"
 #include "session/session.h"
 
 namespace tessarine::cli {
 namespace {
-
-struct CommandError {
-  std::string message;
-};
 
 std::optional<LocalDateTime> parseClock(const std::string& text) {
   // YYYY-MM-DDTHH:MM
@@ -67,6 +64,11 @@ class Runner {
       Options options = s.options();
       options.*option->field = value == "Y";
       s.applyOptions(options);
+    } else if (verb == "colourblind") {
+      if (argument != "Y" && argument != "N") throw CommandError{"usage: colourblind Y|N"};
+      s.applyPresentation({.colourBlind = argument == "Y"});
+    } else if (verb == "sheet") {
+      sheet_.run(s, argument);
     } else if (verb == "restart") {
       restart();
     } else if (verb == "phase") {
@@ -173,6 +175,7 @@ class Runner {
   FixedClock clock_;
   SplitMix64 random_;
   std::unique_ptr<Session> session_;
+  SheetCommands sheet_;
 };
 
 int session(const Args& args) {

@@ -47,6 +47,7 @@ const std::map<std::string, Field, std::less<>>& fields() {
       {"currentPosition", [](S s) { return std::to_string(s.view().currentPosition); }},
       {"currentStreakStart", [](S s) { return std::to_string(s.view().currentStreakStart); }},
       {"dateAscending", [](S s) { return joined(s.view().dateAscending); }},
+      {"colourBlind", [](S s) { return flag(s.presentation().colourBlind); }},
       {"definitionLine", [](S s) { return definitionLine(s.view(), s.lists()); }},
       {"disableCurrent", [](S s) { return flag(s.view().disableCurrent); }},
       {"disableFirst", [](S s) { return flag(s.view().disableFirst); }},

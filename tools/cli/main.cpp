@@ -19,7 +19,7 @@ void printUsage(std::ostream& out) {
 
 // Options that take no value; every other --name takes the next word.
 bool isSwitch(std::string_view name) {
-  return name == "spanish" || name == "help";
+  return name == "spanish" || name == "spanish-words" || name == "help";
 }
 
 }  // namespace

@@ -1,0 +1,30 @@
+// The options sheet inside the session runner: "sheet open", then its buttons, then "sheet close",
+// which applies the choices to the session as the app does when anything really changed.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "screens/seventh_view.h"
+#include "session/session.h"
+
+namespace tessarine::cli {
+
+// A runner command that could not be carried out; the runner prints it and reads on.
+struct CommandError {
+  std::string message;
+};
+
+class SheetCommands {
+ public:
+  // `argument` is what follows "sheet": open, type T, option NAME Y|N, words english|spanish,
+  // groups, close.
+  void run(Session& session, const std::string& argument);
+
+ private:
+  SeventhView& open();
+
+  std::optional<SeventhView> sheet_;
+};
+
+}  // namespace tessarine::cli
