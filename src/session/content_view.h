@@ -31,7 +31,7 @@ struct ContentView : Options, Board, Keypad, RowMarkSet, Knowledge, HintState, S
   Options& options() { return *this; }
   const Options& options() const { return *this; }
   StatisticsScope statisticsScope() const {
-    return {gameType, gameRows, minimumDayIndex, EnglishTranslation, thankYouFlag};
+    return {gameType, gameRows, minimumDayIndex, EnglishTranslation, thankYouFlag, latestDateIndex};
   }
 
   // Last fetch of each store.

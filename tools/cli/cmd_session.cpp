@@ -7,16 +7,13 @@
 #include "catalogue/calendar.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/fatal_error.h"
+#include "cli/cmd_session_statistics.h"
 #include "cli/cmd_session_view.h"
 #include "cli/command.h"
 #include "session/session.h"
 
 namespace tessarine::cli {
 namespace {
-
-struct CommandError {
-  std::string message;
-};
 
 std::optional<LocalDateTime> parseClock(const std::string& text) {
   // YYYY-MM-DDTHH:MM
@@ -53,6 +50,7 @@ class Runner {
     std::getline(words >> std::ws, argument);
     if (verb.empty() || verb[0] == '#') return;
     Session& s = *session_;
+    if (statistics_.execute(s, verb, argument, std::cout)) return;
     if (verb == "type") {
       if (findGameType(argument) == nullptr) throw CommandError{"unknown game type '" + argument + "'"};
       Options options = s.options();
@@ -173,6 +171,7 @@ class Runner {
   FixedClock clock_;
   SplitMix64 random_;
   std::unique_ptr<Session> session_;
+  StatisticsCommands statistics_;
 };
 
 int session(const Args& args) {
