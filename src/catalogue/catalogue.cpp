@@ -125,7 +125,8 @@ KeypadLayout keypadLayout(const GameTypeInfo* info) {
 
 std::string_view scoreName(int row, std::string_view gameType, bool englishTranslation) {
   const GameTypeInfo* info = findGameType(gameType);
-  const int rows = info != nullptr ? info->rows : 6;
+  if (info == nullptr) return kNoScoreName;
+  const int rows = info->rows;
   const ScoreNames& names = rows == 7   ? (englishTranslation ? kSevenRowsEnglish : kSevenRowsSpanish)
                             : rows == 5 ? (englishTranslation ? kFiveRowsEnglish : kFiveRowsSpanish)
                                         : (englishTranslation ? kSixRowsEnglish : kSixRowsSpanish);

@@ -26,7 +26,7 @@ struct GameTypeInfo {
   OperatorSet operators;
   bool hints;                        // word games and the prime games
   std::string_view translationFile;  // Spanish answers with their English text; empty for others
-  std::string_view gameShareCode;    // header code of the game text
+  std::string_view gameShareCode;    // header code of the game text; kNoShareCode when it has none
   std::string_view statisticsShareCode;
   int typeNumber;  // as the challenge key carries it; 0 for a type it cannot carry
 
@@ -57,11 +57,16 @@ bool hasHints(std::string_view gameType);
 // The keypad of a type; a value outside the table gets 26 keys that all read "X".
 KeypadLayout keypadLayout(const GameTypeInfo* info);
 
+// The share code of a type without one of its own, and of a value outside the table.
+inline constexpr std::string_view kNoShareCode = "XX";
+
 // Board size of a value outside the table.
 inline constexpr int kFallbackTiles = 5;
 inline constexpr int kFallbackRows = 6;
 
-// The golf name of a score, indexed by the 0-based row; a single blank past the list's end.
+// The golf name of a score, indexed by the 0-based row; a single blank past the list's end. A type
+// outside the table has no names: every row reads `kNoScoreName`, in both languages.
+inline constexpr std::string_view kNoScoreName = "X over/under Par";
 std::string_view scoreName(int row, std::string_view gameType, bool englishTranslation);
 
 }  // namespace tessarine

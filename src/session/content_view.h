@@ -32,7 +32,7 @@ struct ContentView : Options, Board, Keypad, RowMarkSet, Knowledge, HintState, S
   Options& options() { return *this; }
   const Options& options() const { return *this; }
   StatisticsScope statisticsScope() const {
-    return {gameType, gameRows, minimumDayIndex, EnglishTranslation, thankYouFlag};
+    return {gameType, gameRows, minimumDayIndex, EnglishTranslation, thankYouFlag, latestDateIndex};
   }
 
   // Drawing choices kept beside the options; no rule reads them.

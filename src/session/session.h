@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <unordered_set>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "engine/random_source.h"
 #include "session/content_view.h"
 #include "session/day_record_cache.h"
+#include "statistics/second_view.h"
 #include "statistics/statistics_pass.h"
 #include "storage/data_manager.h"
 
@@ -72,6 +74,15 @@ class Session {
   void openDateList();      // the calendar button: the wheel opens on the shown day's line
   void pickDate(int line);  // confirm the date list at a line (index = -activeDate)
   void openStatistics();    // the refresh that the statistics sheet shows
+
+  // Statistics and sharing.
+  // The statistics screen's copy of the figures as they stand; call openStatistics() first.
+  SecondView secondView(double screenWidth = kDefaultScreenWidth) const;
+  // The game text of the main screen's share button, offered once the game of the day is over.
+  std::optional<std::string> gameShareText() const;
+  // On a finished board a touched tile takes or loses the highlight that hides it from the shared
+  // text. Nothing is stored: the next refresh clears it. Returns whether the tile changed.
+  bool toggleHighlight(int cell);
 
   // Alerts.
   void dismissChristmasAlert();

@@ -4,6 +4,7 @@
 #include "catalogue/catalogue.h"
 #include "engine/scoring.h"
 #include "engine/smart_mode.h"
+#include "statistics/statistics_texts.h"
 
 namespace tessarine {
 namespace {
@@ -61,20 +62,11 @@ std::string shownDateText(const ContentView& view, const Clock& clock) {
 }
 
 std::string latestOpenLabel(const ContentView& view) {
-  if (view.latestUnfinishedDate < 1)
-    return view.EnglishTranslation ? "Latest unfinished day:" : "Último día sin terminar:";
-  return view.EnglishTranslation ? "Latest available day:" : "Último día disponible:";
+  return unfinishedTitle(view, view.statisticsScope());
 }
 
 std::string latestOpenValue(const ContentView& view, const Clock& clock) {
-  const auto date = [&](int offset) {
-    return displayDateString(clock, offset, view.thankYouFlag, view.EnglishTranslation);
-  };
-  if (view.latestUnfinishedDate < 1) return date(view.latestUnfinishedDate);
-  if (view.latestAvailableDate < 1 && view.gamesCompleted < view.latestDateIndex + 1 - view.minimumDayIndex)
-    return date(view.latestAvailableDate);
-  return view.EnglishTranslation ? "All available games have been played."
-                                 : "Se han jugado todos los juegos disponibles.";
+  return unfinishedDate(view, view.statisticsScope(), clock);
 }
 
 std::string_view dateListTitle(const ContentView& view) {

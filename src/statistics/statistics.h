@@ -12,7 +12,15 @@ namespace tessarine {
 inline constexpr int kScoreSlots = 8;
 inline constexpr int kLatestScores = 10;
 
-struct Statistics {
+// The finished games of the shown type as packed keys, each list sorted its own way. Whole numbers
+// with the day in the low digits, so one integer sort also gives the tie-break among equal scores.
+struct ScoreLists {
+  std::vector<int> dateAscending, dateDescending;
+  std::vector<int> scoreAscendingAscending, scoreDescendingAscending;
+  std::vector<int> scoreAscendingDescending, scoreDescendingDescending;
+};
+
+struct Statistics : ScoreLists {
   std::array<int, kScoreSlots> scoreInt{};
   std::array<int, kLatestScores> latestTenScores{};
   int gamesPlayed = 0;
@@ -26,9 +34,6 @@ struct Statistics {
   int maxStreakStart = 2;
   int maxStreakEnd = 1;
 
-  std::vector<int> dateAscending, dateDescending;
-  std::vector<int> scoreAscendingAscending, scoreDescendingAscending;
-  std::vector<int> scoreAscendingDescending, scoreDescendingDescending;
   std::vector<std::string> allDatesInfo;  // index = -activeDate
 };
 
@@ -38,6 +43,7 @@ struct StatisticsScope {
   int minimumDayIndex = 0;
   bool EnglishTranslation = true;
   bool thankYouFlag = false;  // dates go blank under the thank-you cover
+  int latestDateIndex = 0;    // today's day index
 };
 
 }  // namespace tessarine

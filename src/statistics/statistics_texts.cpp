@@ -73,6 +73,22 @@ std::string latestScoreText(const Statistics& stats, const StatisticsScope& scop
   return scope.EnglishTranslation ? "No games played" : "No se jugaron juegos";
 }
 
+std::string unfinishedTitle(const Statistics& stats, const StatisticsScope& scope) {
+  if (stats.latestUnfinishedDate <= 0)
+    return scope.EnglishTranslation ? "Latest unfinished day:" : "Último día sin terminar:";
+  return scope.EnglishTranslation ? "Latest available day:" : "Último día disponible:";
+}
+
+std::string unfinishedDate(const Statistics& stats, const StatisticsScope& scope, const Clock& clock) {
+  if (stats.latestUnfinishedDate <= 0) return dateText(scope, clock, stats.latestUnfinishedDate);
+  const bool allPlayed = stats.latestAvailableDate > 0 ||
+                         stats.gamesCompleted >= scope.latestDateIndex + 1 - scope.minimumDayIndex;
+  if (allPlayed)
+    return scope.EnglishTranslation ? "All available games have been played."
+                                    : "Se han jugado todos los juegos disponibles.";
+  return dateText(scope, clock, stats.latestAvailableDate);
+}
+
 std::string averageScoreText(const Statistics& stats, const StatisticsScope& scope) {
   if (stats.gamesCompleted == 0) return {};
   if (!rowsKnown(scope)) return "0.00";

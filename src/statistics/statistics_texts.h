@@ -17,6 +17,9 @@ int maxStreakLength(const Statistics& stats, const StatisticsScope& scope);
 std::string currentStreakText(const Statistics& stats, const StatisticsScope& scope, const Clock& clock);
 std::string maxStreakText(const Statistics& stats, const StatisticsScope& scope, const Clock& clock);
 std::string latestScoreText(const Statistics& stats, const StatisticsScope& scope, const Clock& clock);
+// The day to go back to: the latest unfinished day, else the latest day without a record.
+std::string unfinishedTitle(const Statistics& stats, const StatisticsScope& scope);
+std::string unfinishedDate(const Statistics& stats, const StatisticsScope& scope, const Clock& clock);
 
 // Computed in 32-bit floating point and printed with two decimals, except the whole-number cases.
 std::string averageScoreText(const Statistics& stats, const StatisticsScope& scope);

@@ -8,6 +8,7 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/fatal_error.h"
 #include "cli/cmd_session_sheet.h"
+#include "cli/cmd_session_statistics.h"
 #include "cli/cmd_session_view.h"
 #include "cli/command.h"
 #include "session/session.h"
@@ -50,6 +51,7 @@ class Runner {
     std::getline(words >> std::ws, argument);
     if (verb.empty() || verb[0] == '#') return;
     Session& s = *session_;
+    if (statistics_.execute(s, verb, argument, std::cout)) return;
     if (verb == "type") {
       if (findGameType(argument) == nullptr) throw CommandError{"unknown game type '" + argument + "'"};
       Options options = s.options();
@@ -176,6 +178,7 @@ class Runner {
   SplitMix64 random_;
   std::unique_ptr<Session> session_;
   SheetCommands sheet_;
+  StatisticsCommands statistics_;
 };
 
 int session(const Args& args) {

@@ -5,15 +5,11 @@
 #include <optional>
 #include <string>
 
+#include "cli/cmd_session_view.h"
 #include "screens/seventh_view.h"
 #include "session/session.h"
 
 namespace tessarine::cli {
-
-// A runner command that could not be carried out; the runner prints it and reads on.
-struct CommandError {
-  std::string message;
-};
 
 class SheetCommands {
  public:
