@@ -9,31 +9,6 @@
 namespace tessarine {
 namespace {
 
-// The 23 flags of a saved match, in their stored order.
-constexpr std::array<bool MatchState::*, 23> kFlags = {&MatchState::disableSubmit,
-                                                       &MatchState::showKeypad,
-                                                       &MatchState::enteringGuess,
-                                                       &MatchState::opponentGuess,
-                                                       &MatchState::waitingForGuess,
-                                                       &MatchState::youWonGame,
-                                                       &MatchState::opponentWonGame,
-                                                       &MatchState::smartModeError,
-                                                       &MatchState::invalidGuess,
-                                                       &MatchState::repeatedGuess,
-                                                       &MatchState::repeatedEntry,
-                                                       &MatchState::youWalked,
-                                                       &MatchState::youStruckOut,
-                                                       &MatchState::youMissedFinalGuess,
-                                                       &MatchState::opponentWalked,
-                                                       &MatchState::opponentStruckOut,
-                                                       &MatchState::opponentMissedFinalGuess,
-                                                       &MatchState::selectedGuessReceived,
-                                                       &MatchState::selectedFoundAnswer,
-                                                       &MatchState::selectedMissedFinalGuess,
-                                                       &MatchState::selectedWalked,
-                                                       &MatchState::selectedStuckOut,
-                                                       &MatchState::selectedIntentionalWalk};
-
 constexpr int kFlagsAt = 12, kGuessesAt = 35, kCellsAt = 59, kNameAt = 123;
 
 std::string padded(std::string_view text, std::size_t length) {
@@ -77,8 +52,8 @@ std::string savedMatchRecord(const MatchState& m, std::string_view name) {
   out += std::to_string(m.numPlayer) + std::to_string(m.activeRow());
   out += (m.currentPosition < 10 ? "0" : "") + std::to_string(m.currentPosition);
   out += std::to_string(m.numCellEntries) + std::to_string(m.numStrikes) + std::to_string(m.numBalls);
-  for (const auto flag : kFlags)
-    out += m.*flag ? 'T' : 'F';
+  for (const auto& flag : storedMatchFlags())
+    out += m.*flag.field ? 'T' : 'F';
   out += padded(m.opponentLastGuess, 8) + padded(m.playerLastGuess, 8) + padded(m.player8thGuess, 8);
   for (int cell = 0; cell < kMatchCells; ++cell) {
     const std::string& letter = m.board.cellLetter[static_cast<std::size_t>(cell)];
@@ -108,8 +83,8 @@ bool readSavedMatch(std::string_view record, MatchState& m) {
   m.numCellEntries = *entries;
   m.numStrikes = *strikes;
   m.numBalls = *balls;
-  for (std::size_t i = 0; i < kFlags.size(); ++i)
-    m.*kFlags[i] = symbols[kFlagsAt + i] == "T";
+  for (std::size_t i = 0; i < storedMatchFlags().size(); ++i)
+    m.*storedMatchFlags()[i].field = symbols[kFlagsAt + i] == "T";
   m.opponentLastGuess = guessField(symbols, kGuessesAt);
   m.playerLastGuess = guessField(symbols, kGuessesAt + 8);
   // A single blank is how a lost turn reads; trimming would make it an empty string, which the

@@ -2,8 +2,10 @@
 // (the initiator's guesses on even rows, the accepter's on odd ones).
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "challenge/challenge_key.h"
 #include "engine/board.h"
@@ -61,6 +63,14 @@ struct MatchState {
     return {kEmptyCell, kEmptyCell, kEmptyCell, kEmptyCell, kEmptyCell, kEmptyCell};
   }
 };
+
+struct MatchFlagField {
+  std::string_view name;
+  bool MatchState::*field;
+};
+
+// The 23 flags a saved match stores, in their stored order.
+const std::array<MatchFlagField, 23>& storedMatchFlags();
 
 enum class MatchResult { win, loss, draw };
 
