@@ -7,14 +7,15 @@ namespace tessarine {
 
 // The colour of a tile or a key. Compared for equality only and never stored: colours are
 // always derived again from the stored letters.
-enum class TileColor { white, gray, green, blue, yellow, orange, red, cyan, purple, black };
+enum class TileColor { white, gray, green, blue, yellow, orange, red, cyan, purple, black, pink };
 
 namespace detail {
 // Both tables follow the order of TileColor.
-constexpr std::array<std::string_view, 10> kTileColorNames = {"white",  "gray", "green", "blue",   "yellow",
-                                                              "orange", "red",  "cyan",  "purple", "black"};
-// One letter a colour for board dumps; gray is X and black K, so every letter stays distinct.
-constexpr std::string_view kTileColorLetters = "WXGBYORCPK";
+constexpr std::array<std::string_view, 11> kTileColorNames = {
+    "white", "gray", "green", "blue", "yellow", "orange", "red", "cyan", "purple", "black", "pink"};
+// One letter a colour for board dumps; gray is X, black K and pink I, so every letter stays distinct.
+// Pink marks a match row awaiting the opponent's guess.
+constexpr std::string_view kTileColorLetters = "WXGBYORCPKI";
 }  // namespace detail
 
 constexpr std::string_view tileColorName(TileColor color) {
