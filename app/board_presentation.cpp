@@ -74,3 +74,17 @@ BoardMetrics boardMetrics(const std::string& gameType, bool useQWERTY, double wi
   }
   return {cell * width, key * width};
 }
+
+double fittedLayoutWidth(const std::string& gameType, bool useQWERTY, int boardRows, int keypadRows, double width,
+                         double height) {
+  // What does not grow with the width: the title bar, the date bar, the reserved message line,
+  // the buttons under the keypad, the two hint lines and the margins; then the gaps of the rows.
+  constexpr double kFixed = 352;
+  constexpr double kTileGap = 4, kKeyGap = 6, kKeyAspect = 1.45;
+  // Tiles and keys are fractions of the width, so the screen's height is a line in the width.
+  const BoardMetrics perUnit = boardMetrics(gameType, useQWERTY, 1.0, height);
+  const double growth = boardRows * perUnit.cellWidth + keypadRows * kKeyAspect * perUnit.keypadWidth;
+  const double room = height - kFixed - boardRows * kTileGap - keypadRows * kKeyGap;
+  if (growth <= 0 || room <= 0) return width;
+  return std::max(200.0, std::min(width, room / growth));
+}

@@ -18,3 +18,9 @@ struct BoardMetrics {
   double keypadWidth = 0;
 };
 BoardMetrics boardMetrics(const std::string& gameType, bool useQWERTY, double width, double height);
+
+// The phone layout's width for a window of `width` x `height`: the window's width, unless the
+// screen (fixed bars, the board's rows, the message line and the keypad) would then be taller
+// than the window, in which case the width at which it just fits.
+double fittedLayoutWidth(const std::string& gameType, bool useQWERTY, int boardRows, int keypadRows, double width,
+                         double height);

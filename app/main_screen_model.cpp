@@ -6,6 +6,7 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/fatal_error.h"
 #include "core_text.h"
+#include "screens/refusal_message.h"
 #include "session/session_texts.h"
 #include "session_host.h"
 #include "tile_texts.h"
@@ -159,14 +160,24 @@ void MainScreenModel::resizeViewport(qreal width, qreal height) {
   emit changed();
 }
 
-qreal MainScreenModel::cellWidth() const {
+qreal MainScreenModel::layoutWidth() const {
   const ContentView& view = host_.view();
-  return boardMetrics(view.gameType, view.useQWERTY, viewport_.width(), viewport_.height()).cellWidth;
+  const int keypadRows = static_cast<int>(keyRows(view).size());
+  return fittedLayoutWidth(view.gameType, view.useQWERTY, view.gameRows, keypadRows, viewport_.width(),
+                           viewport_.height());
+}
+
+BoardMetrics MainScreenModel::metrics() const {
+  const ContentView& view = host_.view();
+  return boardMetrics(view.gameType, view.useQWERTY, layoutWidth(), viewport_.height());
+}
+
+qreal MainScreenModel::cellWidth() const {
+  return metrics().cellWidth;
 }
 
 qreal MainScreenModel::keypadWidth() const {
-  const ContentView& view = host_.view();
-  return boardMetrics(view.gameType, view.useQWERTY, viewport_.width(), viewport_.height()).keypadWidth;
+  return metrics().keypadWidth;
 }
 
 QString MainScreenModel::scoreLine() const {
@@ -182,6 +193,14 @@ QString MainScreenModel::definitionLine() const {
   return lineOrNothing(
       host_, [](const ContentView& v, const auto& lists) { return tessarine::definitionLine(v, lists); });
 }
+QString MainScreenModel::lostAnswerLine() const {
+  return fromCore(tessarine::lostAnswerLine(host_.view()));
+}
+
+QString MainScreenModel::refusalMessage() const {
+  return fromCore(tessarine::refusalMessage(host_.view()));
+}
+
 QString MainScreenModel::hintsLine() const {
   return fromCore(tessarine::hintsCountLine(host_.view()));
 }
@@ -220,6 +239,12 @@ void MainScreenModel::touchCell(int cellIndex) {
 
 void MainScreenModel::clearCell() {
   host_.run(&Session::clearCell);
+}
+void MainScreenModel::backspace() {
+  host_.run(&Session::backspace);
+}
+void MainScreenModel::moveCursor(int step) {
+  host_.act([step](Session& s) { s.moveCursor(step); });
 }
 void MainScreenModel::clearRow() {
   host_.run(&Session::clearRow);

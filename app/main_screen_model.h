@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "board_presentation.h"
 #include "tile_list_model.h"
 
 class SessionHost;
@@ -32,12 +33,17 @@ class MainScreenModel : public QObject {
   Q_PROPERTY(bool hintsEnabled READ hintsEnabled NOTIFY changed)
   // Sizes, from the screen the window reports through resizeViewport().
   Q_PROPERTY(QSizeF viewport READ viewport NOTIFY changed)
+  // The width the phone layout is drawn at: the window's, or less where the height would not hold
+  // the whole screen; the column is centred in the window.
+  Q_PROPERTY(qreal layoutWidth READ layoutWidth NOTIFY changed)
   Q_PROPERTY(qreal cellWidth READ cellWidth NOTIFY changed)
   Q_PROPERTY(qreal keypadWidth READ keypadWidth NOTIFY changed)
   Q_PROPERTY(QString scoreLine READ scoreLine NOTIFY changed)
   Q_PROPERTY(QString scoreMark READ scoreMark NOTIFY changed)
   Q_PROPERTY(QString scoreMarkColor READ scoreMarkColor NOTIFY changed)
   Q_PROPERTY(QString definitionLine READ definitionLine NOTIFY changed)
+  Q_PROPERTY(QString lostAnswerLine READ lostAnswerLine NOTIFY changed)
+  Q_PROPERTY(QString refusalMessage READ refusalMessage NOTIFY changed)
   Q_PROPERTY(QString hintsLine READ hintsLine NOTIFY changed)
   Q_PROPERTY(QString hintDefinitionLine READ hintDefinitionLine NOTIFY changed)
 
@@ -60,6 +66,7 @@ class MainScreenModel : public QObject {
 
   QSizeF viewport() const { return viewport_; }
   Q_INVOKABLE void resizeViewport(qreal width, qreal height);
+  qreal layoutWidth() const;
   qreal cellWidth() const;
   qreal keypadWidth() const;
 
@@ -67,6 +74,8 @@ class MainScreenModel : public QObject {
   QString scoreMark() const;
   QString scoreMarkColor() const;
   QString definitionLine() const;
+  QString lostAnswerLine() const;
+  QString refusalMessage() const;
   QString hintsLine() const;
   QString hintDefinitionLine() const;
 
@@ -76,6 +85,9 @@ class MainScreenModel : public QObject {
   Q_INVOKABLE bool typeText(const QString& text);
   Q_INVOKABLE void touchCell(int cellIndex);
   Q_INVOKABLE void clearCell();
+  // Backspace and the arrow keys of a physical keyboard.
+  Q_INVOKABLE void backspace();
+  Q_INVOKABLE void moveCursor(int step);
   Q_INVOKABLE void clearRow();
   Q_INVOKABLE void moveCorrectLetters();
   Q_INVOKABLE void submitGuess();
@@ -91,6 +103,7 @@ class MainScreenModel : public QObject {
  private:
   void rebuildBoard();
   void rebuildKeypad();
+  BoardMetrics metrics() const;
 
   SessionHost& host_;
   TileListModel board_;

@@ -7,19 +7,21 @@
 # --data      the data directory to use; default a fresh temporary one, removed afterwards
 # --settings  writes the options record (e.g. "ANNYYYNNY": game type A, then the eight flags) into a
 #             fresh settings store before the start; needs the sqlite3 command
+# --size      the window as WIDTHxHEIGHT (default 390x844)
 # --script    steps replayed after the first frame: words are typed as key presses, and "enter",
 #             "backspace", "clearrow", "green", "hint", "confirm", "today", "latest", "type:T",
 #             "pick:N" are the buttons (see app/screenshot.h)
 # The app binary is $TESSARINE_APP, else the newest build/*/app/tessarine.
 set -euo pipefail
 here="$(cd "$(dirname "$0")/.." && pwd)"
-out="" today="2023-06-01" data="" settings="" script=""
+out="" today="2023-06-01" data="" settings="" script="" size=""
 while (($#)); do
   case "$1" in
     --today) today="$2"; shift 2 ;;
     --data) data="$2"; shift 2 ;;
     --settings) settings="$2"; shift 2 ;;
     --script) script="$2"; shift 2 ;;
+    --size) size="$2"; shift 2 ;;
     -*) echo "unknown option $1" >&2; exit 2 ;;
     *) out="$1"; shift ;;
   esac
@@ -44,4 +46,4 @@ fi
 
 case "$out" in /*) ;; *) out="$PWD/$out" ;; esac
 QT_QPA_PLATFORM=offscreen TESSARINE_DATA_DIR="$data" TESSARINE_TODAY="$today" \
-  TESSARINE_SCRIPT="$script" TESSARINE_SCREENSHOT="$out" timeout 60 "$app"
+  TESSARINE_SCRIPT="$script" TESSARINE_WINDOW_SIZE="$size" TESSARINE_SCREENSHOT="$out" timeout 60 "$app"

@@ -15,9 +15,20 @@ Rectangle {
     signal openHelp()
     signal openShare()
 
+    // Popups and sheets take the keyboard while they are up; the board takes it back after.
+    function takeKeyboard() {
+        screen.forceActiveFocus()
+    }
+
     Keys.onPressed: (event) => {
-        if (event.key === Qt.Key_Backspace || event.key === Qt.Key_Delete) {
+        if (event.key === Qt.Key_Backspace) {
+            screen.game.backspace()
+            event.accepted = true
+        } else if (event.key === Qt.Key_Delete) {
             screen.game.clearCell()
+            event.accepted = true
+        } else if (event.key === Qt.Key_Left || event.key === Qt.Key_Right) {
+            screen.game.moveCursor(event.key === Qt.Key_Left ? -1 : 1)
             event.accepted = true
         } else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) {
             screen.game.submitGuess()
@@ -27,117 +38,156 @@ Rectangle {
         }
     }
 
-    Column {
-        id: page
+    // The phone layout, as wide as fits the window's height, centred.
+    Item {
+        id: layout
         anchors.top: parent.top
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.topMargin: 8
-        spacing: 10
-
-        Item {
-            width: parent.width
-            height: 48
-
-            Row {
-                anchors.left: parent.left
-                anchors.leftMargin: 8
-                anchors.verticalCenter: parent.verticalCenter
-                IconButton { symbol: "gearshape"; name: "Options"; onClicked: screen.openOptions() }
-                IconButton { symbol: "info.circle"; name: "How to play"; onClicked: screen.openHelp() }
-            }
-            Text {
-                anchors.centerIn: parent
-                text: "Tessarine"
-                font.pixelSize: 26
-                font.bold: true
-                color: TilePalette.currentMode
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
-            }
-            IconButton {
-                anchors.right: parent.right
-                anchors.rightMargin: 8
-                anchors.verticalCenter: parent.verticalCenter
-                symbol: "square.and.arrow.up"
-                name: "Share"
-                onClicked: screen.openShare()
-            }
-        }
-
-        DateBar {
-            anchors.horizontalCenter: parent.horizontalCenter
-            dates: screen.host.dateBar
-            onOpenDateList: dateWheel.open()
-        }
-
-        Board {
-            objectName: "board"
-            anchors.horizontalCenter: parent.horizontalCenter
-            model: screen.game.board
-            cellWidth: screen.game.cellWidth
-            familyMarks: screen.game.familyMarks
-            rowMarks: screen.game.rowMarks
-            rowMarkColors: screen.game.rowMarkColors
-            onCellTouched: (index) => screen.game.touchCell(index)
-        }
-
-        ScoreLines {
-            anchors.horizontalCenter: parent.horizontalCenter
-            width: parent.width - 32
-            game: screen.game
-            visible: !screen.game.showKeypad
-        }
-    }
-
-    // The keypad sits low, under the thumbs; the hint texts go under it.
-    Column {
-        anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 24
-        width: parent.width - 32
-        spacing: 8
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(parent.width, screen.game.layoutWidth)
 
         Column {
-            anchors.horizontalCenter: parent.horizontalCenter
-            spacing: 6
-            visible: screen.game.showKeypad
+            id: page
+            anchors.top: parent.top
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.topMargin: 8
+            spacing: 10
 
-            Keypad {
-                objectName: "keypad"
+            // The bars of buttons keep a phone's width even where the board is drawn narrower.
+            Item {
                 anchors.horizontalCenter: parent.horizontalCenter
-                model: screen.game.keypad
-                keyWidth: screen.game.keypadWidth
-                onKeyPressed: (index) => screen.game.pressKey(index)
+                width: Math.max(parent.width, Math.min(screen.width - 8, 400))
+                height: 48
+
+                Row {
+                    anchors.left: parent.left
+                    anchors.leftMargin: 8
+                    anchors.verticalCenter: parent.verticalCenter
+                    IconButton { symbol: "gearshape"; name: "Options"; onClicked: screen.openOptions() }
+                    IconButton { symbol: "info.circle"; name: "How to play"; onClicked: screen.openHelp() }
+                }
+                Text {
+                    anchors.centerIn: parent
+                    text: "Tessarine"
+                    font.pixelSize: parent.width < 340 ? 21 : 26
+                    font.bold: true
+                    color: TilePalette.currentMode
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
+                }
+                IconButton {
+                    anchors.right: parent.right
+                    anchors.rightMargin: 8
+                    anchors.verticalCenter: parent.verticalCenter
+                    symbol: "square.and.arrow.up"
+                    name: "Share"
+                    onClicked: screen.openShare()
+                }
             }
-            EntryButtons {
+
+            DateBar {
                 anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.max(parent.width, Math.min(screen.width - 8, 400))
+                dates: screen.host.dateBar
+                onOpenDateList: dateWheel.open()
+            }
+
+            Board {
+                objectName: "board"
+                anchors.horizontalCenter: parent.horizontalCenter
+                model: screen.game.board
+                cellWidth: screen.game.cellWidth
+                familyMarks: screen.game.familyMarks
+                rowMarks: screen.game.rowMarks
+                rowMarkColors: screen.game.rowMarkColors
+                onCellTouched: (index) => screen.game.touchCell(index)
+            }
+
+            // Why the last guess was refused; its place is kept so nothing below moves.
+            Text {
+                objectName: "refusalMessage"
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: parent.width - 32
+                height: 36
+                text: screen.game.refusalMessage
+                textFormat: Text.PlainText
+                wrapMode: Text.Wrap
+                maximumLineCount: 2
+                elide: Text.ElideRight
+                fontSizeMode: Text.VerticalFit
+                minimumPixelSize: 10
+                font.pixelSize: 14
+                color: TilePalette.currentMode
+                horizontalAlignment: Text.AlignHCenter
+                visible: screen.game.showKeypad
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: text
+                Accessible.ignored: text.length === 0
+            }
+
+            ScoreLines {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: parent.width - 32
                 game: screen.game
+                visible: !screen.game.showKeypad
             }
         }
-        Text {
+
+        // The keypad sits low, under the thumbs; the hint texts go under it.
+        Column {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: screen.game.hintsLine
-            font.pixelSize: 15
-            visible: text.length > 0
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
-        }
-        Text {
-            width: parent.width
-            text: screen.game.hintDefinitionLine
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
-            font.pixelSize: 14
-            horizontalAlignment: Text.AlignHCenter
-            visible: text.length > 0
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: 12
+            width: parent.width - 16
+            spacing: 8
+
+            Column {
+                anchors.horizontalCenter: parent.horizontalCenter
+                spacing: 6
+                visible: screen.game.showKeypad
+
+                Keypad {
+                    objectName: "keypad"
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    model: screen.game.keypad
+                    keyWidth: screen.game.keypadWidth
+                    onKeyPressed: (index) => screen.game.pressKey(index)
+                }
+                EntryButtons {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    game: screen.game
+                }
+            }
+            // The hint lines keep their place while empty, so the keys never move under a finger.
+            Text {
+                anchors.horizontalCenter: parent.horizontalCenter
+                height: 20
+                text: screen.game.hintsLine
+                font.pixelSize: 15
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+                Accessible.ignored: text.length === 0
+            }
+            Text {
+                width: parent.width
+                height: 36
+                text: screen.game.hintDefinitionLine
+                textFormat: Text.PlainText
+                wrapMode: Text.Wrap
+                maximumLineCount: 2
+                elide: Text.ElideRight
+                font.pixelSize: 14
+                horizontalAlignment: Text.AlignHCenter
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+                Accessible.ignored: text.length === 0
+            }
         }
     }
 
-    DateWheel { id: dateWheel; dates: screen.host.dateBar }
-    HintsAlert { alerts: screen.host.alerts }
-    ChristmasAlert { alerts: screen.host.alerts }
+    DateWheel { id: dateWheel; dates: screen.host.dateBar; onClosed: screen.takeKeyboard() }
+    HintsAlert { alerts: screen.host.alerts; onClosed: screen.takeKeyboard() }
+    ChristmasAlert { alerts: screen.host.alerts; onClosed: screen.takeKeyboard() }
     ThankYouCover { anchors.fill: parent; alerts: screen.host.alerts }
 }

@@ -22,8 +22,11 @@ Column {
         }
         Text {
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.max(190, implicitWidth)
+            // Narrow phones take room from the date, never from the buttons.
+            width: Math.max(100, Math.min(190, bar.width - 3 * 44 - 3 * 6))
             text: bar.dates.shownDate
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 12
             font.pixelSize: 19
             font.bold: true
             horizontalAlignment: Text.AlignHCenter
@@ -58,7 +61,7 @@ Column {
         }
         Text {
             anchors.verticalCenter: parent.verticalCenter
-            width: 300
+            width: Math.max(100, Math.min(300, bar.width - 24 - 6))
             text: bar.dates.latestLabel + " " + bar.dates.latestValue
             font.pixelSize: 13
             wrapMode: Text.Wrap

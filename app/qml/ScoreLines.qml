@@ -27,6 +27,20 @@ Column {
             color: TilePalette.fill(lines.game.scoreMarkColor)
         }
     }
+    // A lost game names its mystery under "Picking up".
+    Text {
+        objectName: "lostAnswer"
+        anchors.horizontalCenter: parent.horizontalCenter
+        text: lines.game.lostAnswerLine
+        textFormat: Text.PlainText
+        font.pixelSize: 22
+        font.bold: true
+        font.letterSpacing: 2
+        color: TilePalette.currentMode
+        visible: text.length > 0
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
     Text {
         width: parent.width
         text: lines.game.definitionLine

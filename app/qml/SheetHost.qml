@@ -13,6 +13,8 @@ StackView {
     }
     function closeSheet() {
         if (sheets.depth > 1) sheets.pop()
+        // The keyboard goes back to the screen underneath, or typing would stop for good.
+        if (sheets.currentItem) sheets.currentItem.forceActiveFocus()
     }
 
     initialItem: ContentView {

@@ -11,7 +11,12 @@ namespace {
 // Read and mark cells of the board by (row, column); cells outside the fixed board read as empty.
 class Cells {
  public:
-  explicit Cells(Board& board) : board_(board) {}
+  explicit Cells(Board& board, SmartModeFailure* why = nullptr) : board_(board), why_(why) {}
+  // Records the first failure's class and symbol, for the message under the board.
+  bool fail(SmartModeClass kind, const std::string& symbol) {
+    if (why_ != nullptr) *why_ = {kind, symbol};
+    return false;
+  }
   int columns() const { return board_.gameLetters; }
   int active() const { return board_.activeRow; }
 
@@ -59,12 +64,10 @@ class Cells {
 
  private:
   Board& board_;
+  SmartModeFailure* why_;
 };
 
-}  // namespace
-
-bool checkGreenTiles(Board& target) {
-  Cells board(target);
+bool greenKept(Cells& board) {
   for (int k = 0; k < board.columns(); ++k)
     board.paint(k, TileColor::white);
   for (int r = 0; r < board.active(); ++r) {
@@ -73,24 +76,23 @@ bool checkGreenTiles(Board& target) {
       const std::string& symbol = board.letter(r, c);
       if (board.letter(board.active(), c) != symbol) {
         board.mark(c);
-        return false;
+        return board.fail(SmartModeClass::greenNotKept, symbol);
       }
       const int prev = board.count(r, symbol), cur = board.count(board.active(), symbol);
       if (board.hasTile(r, symbol, TileColor::yellow) && cur < prev) {
         board.markOutside(r, symbol);  // the count is exact and a copy was dropped
-        return false;
+        return board.fail(SmartModeClass::yellowDropped, symbol);
       }
       if (cur > prev || (board.hasTile(r, symbol, TileColor::orange) && cur == prev)) {
         board.markCopies(symbol, r);
-        return false;
+        return board.fail(SmartModeClass::orangeNotReduced, symbol);
       }
     }
   }
   return true;
 }
 
-bool checkBlueTiles(Board& target) {
-  Cells board(target);
+bool blueIncreased(Cells& board) {
   for (int r = 0; r < board.active(); ++r) {
     for (int c = 0; c < board.columns(); ++c) {
       if (board.color(r, c) != TileColor::blue) continue;
@@ -99,15 +101,14 @@ bool checkBlueTiles(Board& target) {
       if (board.letter(board.active(), c) != symbol ||
           board.count(r, symbol) >= board.count(board.active(), symbol)) {
         board.mark(c);
-        return false;
+        return board.fail(SmartModeClass::blueNotIncreased, symbol);
       }
     }
   }
   return true;
 }
 
-bool checkGrayTiles(Board& target) {
-  Cells board(target);
+bool grayLeftOut(Cells& board) {
   bool result = true;
   for (int r = 0; r < board.active(); ++r) {
     for (int c = 0; c < board.columns(); ++c) {
@@ -115,6 +116,7 @@ bool checkGrayTiles(Board& target) {
       for (int k = 0; k < board.columns(); ++k) {
         if (board.letter(board.active(), k) == board.letter(r, c)) {
           board.mark(k);
+          if (result) board.fail(SmartModeClass::grayUsedAgain, board.letter(r, c));
           result = false;
         }
       }
@@ -122,8 +124,6 @@ bool checkGrayTiles(Board& target) {
   }
   return result;
 }
-
-namespace {
 
 // All earlier rows: a yellow or orange symbol must come back, and not in the spot shown wrong.
 bool yellowKeptEverywhere(Cells& board) {
@@ -144,9 +144,9 @@ bool yellowKeptEverywhere(Cells& board) {
       }
       if (!found) {
         board.markOutside(r, symbol);  // every spot where the symbol could have gone
-        return false;
+        return board.fail(SmartModeClass::yellowDropped, symbol);
       }
-      if (!result) return false;
+      if (!result) return board.fail(SmartModeClass::yellowSameSpot, symbol);
     }
   }
   return true;
@@ -163,24 +163,44 @@ bool countsKeptFromRowAbove(Cells& board) {
     const bool kept = tile == TileColor::orange ? cur < prev : cur >= prev;
     if (!kept) {
       board.markCopies(symbol);
-      return false;
+      return board.fail(tile == TileColor::orange ? SmartModeClass::orangeNotReduced : SmartModeClass::yellowDropped,
+                        symbol);
     }
   }
   return true;
 }
 
-}  // namespace
-
-bool checkYellowTiles(Board& target) {
-  Cells board(target);
+bool yellowKept(Cells& board) {
   if (!yellowKeptEverywhere(board)) return false;
   if (board.active() < 1) return true;
   return countsKeptFromRowAbove(board);
 }
 
-bool passesSmartMode(Board& target) {
-  return checkGreenTiles(target) && checkBlueTiles(target) && checkGrayTiles(target) &&
-         checkYellowTiles(target);
+}  // namespace
+
+bool checkGreenTiles(Board& target) {
+  Cells board(target);
+  return greenKept(board);
+}
+
+bool checkBlueTiles(Board& target) {
+  Cells board(target);
+  return blueIncreased(board);
+}
+
+bool checkGrayTiles(Board& target) {
+  Cells board(target);
+  return grayLeftOut(board);
+}
+
+bool checkYellowTiles(Board& target) {
+  Cells board(target);
+  return yellowKept(board);
+}
+
+bool passesSmartMode(Board& target, SmartModeFailure* why) {
+  Cells board(target, why);
+  return greenKept(board) && blueIncreased(board) && grayLeftOut(board) && yellowKept(board);
 }
 
 bool isPerfectGame(const RowMarkSet& marks, int activeRow, int gameRows) {

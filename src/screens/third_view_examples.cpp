@@ -1,5 +1,6 @@
 // The example lines of the how-to-play sheet, each beside a row of tiles in its colour. The words,
 // numbers and equations name different symbols on purpose, and so do the two languages.
+#include <algorithm>
 #include <array>
 
 #include "screens/third_view_parts.h"
@@ -56,6 +57,14 @@ SheetSection examples(const Bilingual& heading, const std::array<Example, N>& ta
 
 SheetSection colourHintExamples(const GameTypeInfo* info, bool english) {
   return examples({"Color Hint Examples", "Ejemplos de sugerencias de color"}, kColourHints, info, english);
+}
+
+const FamilyTexts& refusedEntryText(bool repeated) {
+  return kColourHints[repeated ? 6 : 5].texts;
+}
+
+const FamilyTexts& smartModeErrorText(std::size_t check) {
+  return kSmartModeErrors[std::min(check, kSmartModeErrors.size() - 1)].texts;
 }
 
 SheetSection smartModeErrorExamples(const GameTypeInfo* info, bool english) {

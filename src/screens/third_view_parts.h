@@ -27,6 +27,11 @@ SheetSection nameEntry(bool english);
 SheetSection howToPlay(const GameTypeInfo* info, bool english);
 SheetSection colourHintExamples(const GameTypeInfo* info, bool english);
 SheetSection smartModeErrorExamples(const GameTypeInfo* info, bool english);
+// The example sentences that the line under the board fills with the player's entry: the
+// cyan (invalid) or purple (repeated) explanation, and a Smart Mode class in the order of
+// `SmartModeClass`.
+const FamilyTexts& refusedEntryText(bool repeated);
+const FamilyTexts& smartModeErrorText(std::size_t check);
 SheetSection gameOptions(const GameTypeInfo* info, bool english);
 SheetSection gameButtons(const GameTypeInfo* info, bool english);
 SheetSection gameSymbols(const GameTypeInfo* info, bool english);

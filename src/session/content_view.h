@@ -9,6 +9,7 @@
 #include "engine/keypad.h"
 #include "engine/knowledge.h"
 #include "engine/row_marks.h"
+#include "engine/smart_mode.h"
 #include "session/christmas_texts.h"
 #include "statistics/statistics.h"
 #include "storage/entry.h"
@@ -18,6 +19,15 @@
 namespace tessarine {
 
 constexpr int kMaximumCells = 56;
+
+// Why the active row was last refused, for the line under the board. It lasts until the row or
+// the day changes.
+enum class RefusalKind { none, invalid, repeated, smartMode };
+struct Refusal {
+  RefusalKind kind = RefusalKind::none;
+  std::string entry;            // the row as typed
+  SmartModeFailure smartMode;   // for a Smart Mode refusal: the first failed check and its symbol
+};
 
 // The state of the main screen. Plain values only: every action ends in a refresh that rebuilds the
 // board, the marks, the keys and the hint knowledge from the stored day records. The stores
@@ -37,6 +47,7 @@ struct ContentView : Options, Board, Keypad, RowMarkSet, Knowledge, HintState, S
 
   // Drawing choices kept beside the options; no rule reads them.
   Presentation presentation;
+  Refusal refusal;
 
   // Last fetch of each store.
   std::vector<Entry> cellEntries, settingEntries, bonusEntries;

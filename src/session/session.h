@@ -55,6 +55,10 @@ class Session {
   bool keyLive(const std::string& symbol) const;
   void touchCell(int column);  // a cell of the active row becomes the active cell
   void clearCell();
+  // The physical keyboard: Backspace clears the active cell, or when it is empty the one before;
+  // the arrow keys move the cursor one cell within the row (`step` -1 or 1), over an equation's "=".
+  void backspace();
+  void moveCursor(int step);
   void clearRow();
   void moveCorrectLetters();
   void submitGuess();

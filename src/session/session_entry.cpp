@@ -15,6 +15,7 @@ void Session::enterSymbol(const std::string& symbol) {
   const int cell = v.currentPosition;
   if (cell < 0 || cell >= kMaximumCells || !v.showKeypad) return;
   if (v.cellLetter[cell] != symbol) v.showHintDefinition = false;
+  v.refusal = {};
   if (v.cellLetter[cell] == kEmptyCell) v.numCellEntries += 1;
   if (v.numCellEntries == neededEntries()) v.disableSubmit = false;
   v.cellLetter[cell] = symbol;
@@ -60,6 +61,7 @@ void Session::clearCell() {
   v.showHintDefinition = false;
   const int cell = v.currentPosition;
   if (!v.showKeypad || cell < 0 || cell >= kMaximumCells) return;
+  v.refusal = {};
   if (v.cellLetter[cell] != kEmptyCell) {
     v.numCellEntries -= 1;
     v.disableSubmit = true;
@@ -69,10 +71,36 @@ void Session::clearCell() {
   v.cellBackground[cell] = TileColor::white;
 }
 
+void Session::moveCursor(int step) {
+  ContentView& v = view_;
+  if (!v.showKeypad || step == 0) return;
+  const int first = v.activeRow * v.gameLetters;
+  int column = v.currentPosition - first;
+  do {
+    column += step < 0 ? -1 : 1;
+  } while (isEquationType(v.gameType) && column == v.answer.equalsColumn);
+  if (column < 0 || column >= v.gameLetters) return;
+  touchCell(column);
+}
+
+void Session::backspace() {
+  ContentView& v = view_;
+  if (!v.showKeypad) return;
+  const int first = v.activeRow * v.gameLetters;
+  if (v.numCellEntries == neededEntries() && v.currentPosition == first) {
+    // Typing the last cell wrapped the cursor to the first: the player means the last symbol.
+    touchCell(v.gameLetters - 1);
+  } else if (v.cellLetter[v.currentPosition] == kEmptyCell) {
+    moveCursor(-1);
+  }
+  clearCell();
+}
+
 void Session::clearRow() {
   ContentView& v = view_;
   v.showHintDefinition = false;
   if (!v.showKeypad) return;
+  v.refusal = {};
   v.numCellEntries = 0;
   v.disableSubmit = true;
   v.disableHints = false;

@@ -41,6 +41,7 @@ void Session::reloadDay(bool recomputeStreaks, bool recomputeLatest) {
   ContentView& v = view_;
   const int daysNow = daysFromApril1st(clock_);
   resetBoard(v);
+  v.refusal = {};
   v.currentPosition = 0;
   v.numCellEntries = 0;
   const std::vector<DayRecord>& records = records_.records(stores_.coreDM, log_);

@@ -32,22 +32,27 @@ void Session::submitGuess() {
   v.activeWord = rowWord(v, v.activeRow);
   if (v.numCellEntries == 0) return;
   const int markRow = v.activeRow - 1;  // marks are indexed by board row - 1
+  const std::string entry = v.activeWord;
+  SmartModeFailure failure;
   if (!isValidGuess(v.gameType, lists_, v.activeWord)) {
     fillRow(v, TileColor::cyan);
     if (markRow >= 0 && !v.smartModeError[markRow]) v.validGuessError[markRow] = true;
     storeDay(0, false);
     reloadDay(false, false);
+    v.refusal = {RefusalKind::invalid, entry, {}};
   } else if (isWin(v, v.activeWord)) {
     // The win test comes before Smart Mode: a winning row that breaks the colour code still wins.
     if (markRow >= 0) v.smartModeCorrect[markRow] = true;
     finishWonRow();
   } else if (wasUsedBefore(v, v.activeWord)) {
     fillRow(v, TileColor::purple);  // nothing is stored
-  } else if (markRow >= 0 && v.smartMode && !passesSmartMode(v)) {
+    v.refusal = {RefusalKind::repeated, entry, {}};
+  } else if (markRow >= 0 && v.smartMode && !passesSmartMode(v, &failure)) {
     v.smartModeError[markRow] = true;
     v.usedHints[markRow] = false;
     storeDay(0, true);
     reloadDay(false, false);
+    v.refusal = {RefusalKind::smartMode, entry, failure};
   } else {
     if (markRow >= 0 && passesSmartMode(v)) v.smartModeCorrect[markRow] = true;
     if (v.activeRow == v.gameRows - 1) {

@@ -42,8 +42,13 @@ MarkSymbol scoreMark(const ContentView& view) {
   return {"star.fill", "yellow"};
 }
 
+std::string lostAnswerLine(const ContentView& view) {
+  if (view.showKeypad || gameWon(view)) return {};
+  return view.answer.text;
+}
+
 std::string hintsCountLine(const ContentView& view) {
-  if (!view.displayHintsNumbers) return {};
+  if (!view.displayHintsNumbers || !view.showKeypad) return {};
   return std::to_string(view.numberOfAvailableHints) + std::string(kHintsCountSuffix);
 }
 

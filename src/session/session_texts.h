@@ -34,7 +34,9 @@ std::string scoreLine(const ContentView& view);
 // Beside the score: "graduationcap.fill" for a perfect game under par, "star.fill" for a perfect
 // game, else nothing.
 MarkSymbol scoreMark(const ContentView& view);
-// "12 available HINTS." while the count line is up, else empty.
+// Below "Picking up" on a lost game: the mystery itself, else empty.
+std::string lostAnswerLine(const ContentView& view);
+// "12 available HINTS." while the count line is up and the game goes on, else empty.
 std::string hintsCountLine(const ContentView& view);
 // Below the score when the game is over and `showDefinitions` is on: the answer's definition, or
 // its English translation for the Spanish word games. Empty otherwise.

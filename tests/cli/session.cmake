@@ -48,3 +48,21 @@ add_test(NAME cli.session.data_not_creatable
                  --resources ${SESSION_FIXTURE} --today 2024-01-10)
 set_tests_properties(cli.session.data_not_creatable PROPERTIES
                      PASS_REGULAR_EXPRESSION "^Fatal error: Core Data Store failed .+\n$")
+
+# The line under the board names the refusal with the player's own entry, and goes with any change.
+session_cli_test(refusal_messages
+  "guess CRANE\\nguess CRANE\\nmessage\\nkeys T\\nmessage\\nclearrow\\nguess QQQQA\\nmessage\\noption EnglishTranslation N\\nclearrow\\nguess CRANE\\nmessage\\n"
+  "^The word CRANE was used previously.\n\nThe word QQQQA is not a valid word.\nLa palabra CRANE se utilizó anteriormente.\n$")
+
+session_cli_test(smart_mode_message
+  "option smartMode Y\\nguess CRANE\\nguess GHOST\\nmessage\\n"
+  "^The letter E is in the mystery word but in the wrong spot, but on the next guess E was not used in any position. All the cells where the E could have been placed are given the color red.\n$")
+
+# Backspace clears the cell before an empty cursor, or the last symbol of a full row; arrows skip nothing in words.
+session_cli_test(physical_keys
+  "keys CRA\\nbackspace\\nboard\\nkeys ANE\\nbackspace\\nkeys E\\nright\\nright\\nright\\nleft\\nright\\nkeys I\\nboard\\n"
+  "^CR[.][.][.] W+\n.*CRAIE W+\n")
+
+session_cli_test(lost_answer
+  "guess CRANE\\nguess TOWEL\\nguess BLIMP\\nguess CHUMP\\nguess GHOST\\nguess PLANT\\nscoreline\\nstate hintsCountLine\\n"
+  "^Picking up\nWIELD\n(.*\n)?hintsCountLine=\n$")

@@ -11,7 +11,9 @@
 #include "cli/cmd_session_statistics.h"
 #include "cli/cmd_session_view.h"
 #include "cli/command.h"
+#include "screens/refusal_message.h"
 #include "session/session.h"
+#include "session/session_texts.h"
 
 namespace tessarine::cli {
 namespace {
@@ -95,6 +97,15 @@ class Runner {
       s.clearCell();
     } else if (verb == "clearrow") {
       s.clearRow();
+    } else if (verb == "backspace") {
+      s.backspace();
+    } else if (verb == "left" || verb == "right") {
+      s.moveCursor(verb == "left" ? -1 : 1);
+    } else if (verb == "message") {
+      std::cout << refusalMessage(s.view()) << "\n";
+    } else if (verb == "scoreline") {
+      for (const std::string& line : {scoreLine(s.view()), lostAnswerLine(s.view()), definitionLine(s.view(), s.lists())})
+        if (!line.empty()) std::cout << line << "\n";
     } else if (verb == "green") {
       if (s.view().disableGreenButton) throw CommandError{"the green button is off"};
       s.moveCorrectLetters();
