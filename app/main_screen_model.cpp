@@ -69,6 +69,7 @@ void MainScreenModel::rebuildBoard() {
     item.gridRow = i / columns;
     item.gridColumn = i % columns;
     item.rowLength = columns;
+    item.spokenName = QStringLiteral("row %1, column %2, ").arg(item.gridRow + 1).arg(item.gridColumn + 1) + item.spokenName;
     items.push_back(std::move(item));
   }
   board_.setItems(std::move(items));
@@ -132,6 +133,13 @@ QStringList MainScreenModel::rowMarkColors() const {
   return colors;
 }
 
+QStringList MainScreenModel::rowMarkNames() const {
+  QStringList names;
+  for (const QString& symbol : rowMarks())
+    names << spokenMark(symbol);
+  return names;
+}
+
 QStringList MainScreenModel::familyMarks() const {
   const ContentView& view = host_.view();
   QStringList marks;
@@ -165,6 +173,11 @@ qreal MainScreenModel::layoutWidth() const {
   const int keypadRows = static_cast<int>(keyRows(view).size());
   return fittedLayoutWidth(view.gameType, view.useQWERTY, view.gameRows, keypadRows, viewport_.width(),
                            viewport_.height());
+}
+
+bool MainScreenModel::reducedMotion() const {
+  const QByteArray wanted = qgetenv("TESSARINE_REDUCED_MOTION");
+  return !wanted.isEmpty() && wanted != "0";
 }
 
 BoardMetrics MainScreenModel::metrics() const {

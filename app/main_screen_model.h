@@ -25,6 +25,7 @@ class MainScreenModel : public QObject {
   Q_PROPERTY(int currentPosition READ currentPosition NOTIFY changed)
   Q_PROPERTY(QStringList rowMarks READ rowMarks NOTIFY changed)
   Q_PROPERTY(QStringList rowMarkColors READ rowMarkColors NOTIFY changed)
+  Q_PROPERTY(QStringList rowMarkNames READ rowMarkNames NOTIFY changed)
   Q_PROPERTY(QStringList familyMarks READ familyMarks NOTIFY changed)
   Q_PROPERTY(bool showKeypad READ showKeypad NOTIFY changed)
   Q_PROPERTY(bool submitEnabled READ submitEnabled NOTIFY changed)
@@ -36,6 +37,8 @@ class MainScreenModel : public QObject {
   // The width the phone layout is drawn at: the window's, or less where the height would not hold
   // the whole screen; the column is centred in the window.
   Q_PROPERTY(qreal layoutWidth READ layoutWidth NOTIFY changed)
+  // TESSARINE_REDUCED_MOTION set to anything but 0: tiles change without turning over.
+  Q_PROPERTY(bool reducedMotion READ reducedMotion CONSTANT)
   Q_PROPERTY(qreal cellWidth READ cellWidth NOTIFY changed)
   Q_PROPERTY(qreal keypadWidth READ keypadWidth NOTIFY changed)
   Q_PROPERTY(QString scoreLine READ scoreLine NOTIFY changed)
@@ -57,6 +60,7 @@ class MainScreenModel : public QObject {
   int currentPosition() const;
   QStringList rowMarks() const;
   QStringList rowMarkColors() const;
+  QStringList rowMarkNames() const;
   QStringList familyMarks() const;
   bool showKeypad() const;
   bool submitEnabled() const;
@@ -67,6 +71,7 @@ class MainScreenModel : public QObject {
   QSizeF viewport() const { return viewport_; }
   Q_INVOKABLE void resizeViewport(qreal width, qreal height);
   qreal layoutWidth() const;
+  bool reducedMotion() const;
   qreal cellWidth() const;
   qreal keypadWidth() const;
 

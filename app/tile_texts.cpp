@@ -1,5 +1,7 @@
 #include "tile_texts.h"
 
+#include <QHash>
+
 QString glyphFor(const QString& symbol, bool equation) {
   if (!equation) return symbol;
   if (symbol == QLatin1String("X")) return QStringLiteral("\u00d7");
@@ -19,4 +21,19 @@ QString spokenName(const QString& symbol, const QString& colorName, bool equatio
     if (said == QLatin1String("=")) said = QStringLiteral("equals");
   }
   return said + QStringLiteral(", ") + colorName;
+}
+
+QString spokenMark(const QString& symbol) {
+  static const QHash<QString, QString> meanings = {
+      {QStringLiteral("star.fill"), QStringLiteral("star: no colour code broken")},
+      {QStringLiteral("exclamationmark.2"), QStringLiteral("refused by Smart Mode")},
+      {QStringLiteral("exclamationmark.triangle.fill"), QStringLiteral("not a valid guess")},
+      {QStringLiteral("questionmark"), QStringLiteral("hints used")},
+      {QStringLiteral("exclamationmark.questionmark"), QStringLiteral("one hint used")},
+      {QStringLiteral("multiply"), QStringLiteral("no star: the colour code was not kept")},
+      {QStringLiteral("questionmark.circle"), QStringLiteral("no guess yet")},
+      {QStringLiteral("graduationcap.fill"), QStringLiteral("genius game")},
+      {QStringLiteral("parkingsign.circle"), QStringLiteral("prime numbers only")},
+  };
+  return meanings.value(symbol);
 }

@@ -9,3 +9,5 @@
 QString glyphFor(const QString& symbol, bool equation);
 // What a tile or key says to a screen reader: "C, green", "times, gray", "blank, white".
 QString spokenName(const QString& symbol, const QString& colorName, bool equation);
+// What a row mark means, for a screen reader: "star: no colour code broken", "refused by Smart Mode".
+QString spokenMark(const QString& symbol);

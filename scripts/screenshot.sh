@@ -45,5 +45,6 @@ if [ -n "$settings" ]; then
 fi
 
 case "$out" in /*) ;; *) out="$PWD/$out" ;; esac
-QT_QPA_PLATFORM=offscreen TESSARINE_DATA_DIR="$data" TESSARINE_TODAY="$today" \
+# Shots show the settled board, not a tile half-way through turning over.
+QT_QPA_PLATFORM=offscreen TESSARINE_REDUCED_MOTION="${TESSARINE_REDUCED_MOTION:-1}" TESSARINE_DATA_DIR="$data" TESSARINE_TODAY="$today" \
   TESSARINE_SCRIPT="$script" TESSARINE_WINDOW_SIZE="$size" TESSARINE_SCREENSHOT="$out" timeout 60 "$app"

@@ -11,6 +11,10 @@ Row {
     property var familyMarks: []
     property var rowMarks: []
     property var rowMarkColors: []
+    property var rowMarkNames: []
+    // Tiles turn over, shake and bounce; off for players who asked for less motion.
+    property bool animate: false
+    property bool celebrate: false
     signal cellTouched(int index)
     spacing: 4
 
@@ -28,6 +32,8 @@ Row {
             delegate: Tile {
                 objectName: "cell_" + index
                 size: board.cellWidth
+                animate: board.animate
+                celebrate: board.celebrate
                 onTouched: (index) => board.cellTouched(index)
             }
         }
@@ -37,6 +43,7 @@ Row {
         cellWidth: board.cellWidth
         symbols: board.rowMarks
         colors: board.rowMarkColors
+        names: board.rowMarkNames
         spoken: true
     }
 }

@@ -101,6 +101,9 @@ Rectangle {
                 familyMarks: screen.game.familyMarks
                 rowMarks: screen.game.rowMarks
                 rowMarkColors: screen.game.rowMarkColors
+                rowMarkNames: screen.game.rowMarkNames
+                animate: !screen.game.reducedMotion
+                celebrate: !screen.game.showKeypad && screen.game.lostAnswerLine.length === 0
                 onCellTouched: (index) => screen.game.touchCell(index)
             }
 

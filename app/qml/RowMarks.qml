@@ -13,6 +13,7 @@ Column {
     property var colors: []
     // Whether a screen reader reads the marks.
     property bool spoken: false
+    property var names: []
     spacing: 4
     visible: marks.symbols.length > 0 && marks.symbols[0] !== ""
 
@@ -34,7 +35,7 @@ Column {
                                                : TilePalette.currentMode
                 Accessible.ignored: !marks.spoken || slot.symbol === ""
                 Accessible.role: Accessible.Graphic
-                Accessible.name: slot.symbol
+                Accessible.name: marks.names[slot.index] || slot.symbol
             }
         }
     }

@@ -1,22 +1,70 @@
 import QtQuick
 
 // One cell of a board: its symbol on its colour, with the thick border on the active cell.
+// With motion on, a tile that gets its score turns over (one column after another), a refused
+// tile shakes and a winning tile bounces. The model changes at once: only the drawing follows.
 Rectangle {
     id: tile
     required property int index
+    required property int gridColumn
     required property string glyph
     required property string colorName
     required property string spokenName
     required property real borderWidth
     required property real size
+    property bool animate: false
+    property bool celebrate: false
+    // The colour on the face the player sees; it lags `colorName` by half a turn.
+    property string shownColor: colorName
     signal touched(int index)
+
+    readonly property var scoringColors: ["gray", "green", "blue", "yellow", "orange"]
+    readonly property var refusalColors: ["cyan", "purple", "red"]
 
     width: size
     height: size
     radius: 3
-    color: TilePalette.fill(colorName)
+    color: TilePalette.fill(shownColor)
     border.width: borderWidth
     border.color: borderWidth > 1 ? "#000000" : "#8e8e93"
+    transform: [
+        Scale { id: face; origin.y: tile.height / 2; yScale: 1 },
+        Translate { id: nudge }
+    ]
+
+    onColorNameChanged: {
+        const turnsOver = tile.animate && tile.shownColor === "white" && tile.scoringColors.indexOf(tile.colorName) >= 0
+        if (turnsOver) {
+            flip.restart()
+            return
+        }
+        flip.stop()
+        face.yScale = 1
+        tile.shownColor = tile.colorName
+        if (tile.animate && tile.refusalColors.indexOf(tile.colorName) >= 0) shake.restart()
+    }
+
+    SequentialAnimation {
+        id: flip
+        PauseAnimation { duration: tile.gridColumn * 70 }
+        NumberAnimation { target: face; property: "yScale"; to: 0; duration: 90 }
+        PropertyAction { target: tile; property: "shownColor"; value: tile.colorName }
+        NumberAnimation { target: face; property: "yScale"; to: 1; duration: 90 }
+        onFinished: if (tile.celebrate && tile.colorName === "green") bounce.restart()
+    }
+    SequentialAnimation {
+        id: shake
+        NumberAnimation { target: nudge; property: "x"; to: -6; duration: 35 }
+        NumberAnimation { target: nudge; property: "x"; to: 6; duration: 70 }
+        NumberAnimation { target: nudge; property: "x"; to: -3; duration: 60 }
+        NumberAnimation { target: nudge; property: "x"; to: 0; duration: 35 }
+    }
+    SequentialAnimation {
+        id: bounce
+        PauseAnimation { duration: tile.gridColumn * 60 }
+        NumberAnimation { target: nudge; property: "y"; to: -tile.height * 0.3; duration: 110 }
+        NumberAnimation { target: nudge; property: "y"; to: 0; duration: 160 }
+    }
 
     Text {
         anchors.centerIn: parent
@@ -24,7 +72,7 @@ Rectangle {
         textFormat: Text.PlainText
         font.pixelSize: tile.width * 0.6
         font.bold: true
-        color: TilePalette.ink(tile.colorName)
+        color: TilePalette.ink(tile.shownColor)
     }
     MouseArea {
         anchors.fill: parent

@@ -75,7 +75,7 @@ Item {
             compare(game.showKeypad, false)
             compare(game.scoreLine, "Eagle")
             const tile = findChild(screen, "cell_5")
-            compare(tile.Accessible.name, testAnswer[0] + ", green")
+            compare(tile.Accessible.name, "row 2, column 1, " + testAnswer[0] + ", green")
         }
     }
 }
