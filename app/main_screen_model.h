@@ -30,6 +30,7 @@ class MainScreenModel : public QObject {
   Q_PROPERTY(bool greenButtonEnabled READ greenButtonEnabled NOTIFY changed)
   Q_PROPERTY(bool hasHintsButton READ hasHintsButton NOTIFY changed)
   Q_PROPERTY(bool hintsEnabled READ hintsEnabled NOTIFY changed)
+  Q_PROPERTY(bool shareEnabled READ shareEnabled NOTIFY changed)
   // Sizes, from the screen the window reports through resizeViewport().
   Q_PROPERTY(QSizeF viewport READ viewport NOTIFY changed)
   Q_PROPERTY(qreal cellWidth READ cellWidth NOTIFY changed)
@@ -57,6 +58,7 @@ class MainScreenModel : public QObject {
   bool greenButtonEnabled() const;
   bool hasHintsButton() const;
   bool hintsEnabled() const { return hintsEnabled_; }
+  bool shareEnabled() const;  // once the game of the shown day is over
 
   QSizeF viewport() const { return viewport_; }
   Q_INVOKABLE void resizeViewport(qreal width, qreal height);
@@ -74,7 +76,10 @@ class MainScreenModel : public QObject {
   Q_INVOKABLE void pressKey(int keyIndex);
   // A key of a physical keyboard: a letter, digit or operator that the keypad has and that is live.
   Q_INVOKABLE bool typeText(const QString& text);
+  // On the active row a touch moves the cursor; on a finished board it hides the tile from the
+  // shared grid, or shows it again.
   Q_INVOKABLE void touchCell(int cellIndex);
+  Q_INVOKABLE void shareGame();
   Q_INVOKABLE void clearCell();
   Q_INVOKABLE void clearRow();
   Q_INVOKABLE void moveCorrectLetters();

@@ -13,7 +13,6 @@ Rectangle {
 
     signal openOptions()
     signal openHelp()
-    signal openShare()
 
     Keys.onPressed: (event) => {
         if (event.key === Qt.Key_Backspace || event.key === Qt.Key_Delete) {
@@ -59,9 +58,11 @@ Rectangle {
                 anchors.right: parent.right
                 anchors.rightMargin: 8
                 anchors.verticalCenter: parent.verticalCenter
+                objectName: "shareGameButton"
                 symbol: "square.and.arrow.up"
                 name: "Share"
-                onClicked: screen.openShare()
+                enabled: screen.game.shareEnabled
+                onClicked: screen.game.shareGame()
             }
         }
 
@@ -69,6 +70,7 @@ Rectangle {
             anchors.horizontalCenter: parent.horizontalCenter
             dates: screen.host.dateBar
             onOpenDateList: dateWheel.open()
+            onOpenStatistics: screen.host.statistics.openStatistics()
         }
 
         Board {
