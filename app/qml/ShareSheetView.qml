@@ -36,7 +36,7 @@ Rectangle {
             text: sheet.sink.text
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
-            font.pixelSize: 17
+            font.pixelSize: 20
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }
@@ -50,6 +50,7 @@ Rectangle {
             objectName: "copyButton"
             anchors.horizontalCenter: parent.horizontalCenter
             text: sheet.sink.copyButton
+            font.pixelSize: 18
             onClicked: sheet.sink.copy()
             Accessible.name: text
         }

@@ -13,6 +13,7 @@ Item {
     height: 52
 
     IconButton {
+        id: backButton
         objectName: "backButton"
         anchors.left: parent.left
         anchors.leftMargin: 4
@@ -22,9 +23,16 @@ Item {
         tint: TilePalette.fill(header.backButton.color)
         onClicked: header.back()
     }
+    // Kept clear of the back button on both sides so it stays centred; a long title shrinks.
     Text {
-        anchors.centerIn: parent
+        anchors.left: backButton.right
+        anchors.right: parent.right
+        anchors.rightMargin: backButton.width + 4
+        anchors.verticalCenter: parent.verticalCenter
         text: header.title
+        horizontalAlignment: Text.AlignHCenter
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 12
         font.pixelSize: header.fontSize
         font.bold: true
         color: TilePalette.currentMode

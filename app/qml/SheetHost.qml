@@ -10,11 +10,12 @@ StackView {
     id: sheets
     required property SessionHost host
 
+    // Sheets come and go at once: a touch or a script step lands on the screen it opened.
     function openSheet(sheet: Component, properties: var) {
-        sheets.push(sheet, properties)
+        sheets.push(sheet, properties, StackView.Immediate)
     }
     function closeSheet() {
-        if (sheets.depth > 1) sheets.pop()
+        if (sheets.depth > 1) sheets.pop(StackView.Immediate)
     }
 
     initialItem: ContentView {
