@@ -13,7 +13,8 @@ SessionHost::SessionHost(QObject* parent)
   connect(this, &SessionHost::updated, &dateBar_, &DateBarModel::changed);
   connect(this, &SessionHost::updated, &alerts_, &AlertsModel::changed);
   connect(this, &SessionHost::updated, &statistics_, &StatisticsModel::sessionUpdated);
-  connect(this, &SessionHost::updated, &shareSheet_, [this] { shareSheet_.setEnglish(view().EnglishTranslation); });
+  connect(this, &SessionHost::updated, &shareSheet_,
+          [this] { shareSheet_.setEnglish(view().EnglishTranslation); });
 }
 
 void SessionHost::attach(Session* session) {

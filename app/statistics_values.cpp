@@ -64,10 +64,11 @@ QVariantMap fifthValues(const tessarine::FifthView& view) {
 QVariantMap sixthValues(const tessarine::SixthView& view) {
   QVariantList bars;
   for (int bar = 0; bar < view.shownBars(); ++bar)
-    bars.append(QVariantMap{{QStringLiteral("label"), fromCore(view.barLabel(bar))},
-                            {QStringLiteral("length"), view.cellFrameWidth[bar]},
-                            {QStringLiteral("color"), fromCore(tessarine::tileColorName(view.cellBackground[bar]))},
-                            {QStringLiteral("count"), view.scoreInt[bar]}});
+    bars.append(
+        QVariantMap{{QStringLiteral("label"), fromCore(view.barLabel(bar))},
+                    {QStringLiteral("length"), view.cellFrameWidth[bar]},
+                    {QStringLiteral("color"), fromCore(tessarine::tileColorName(view.cellBackground[bar]))},
+                    {QStringLiteral("count"), view.scoreInt[bar]}});
   return {{QStringLiteral("title"), fromCore(view.title())},
           {QStringLiteral("backButton"), button(tessarine::kBackButton)},
           {QStringLiteral("bars"), bars},

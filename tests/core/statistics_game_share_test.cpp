@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "session/content_view.h"
@@ -27,15 +28,12 @@ struct GameShareCase {
 };
 
 TileColor colorOf(char tile) {
-  switch (tile) {
-    case 'g': return TileColor::green;
-    case 'y': return TileColor::yellow;
-    case 'o': return TileColor::orange;
-    case 'b': return TileColor::blue;
-    case 'w': return TileColor::white;
-    case 'r': return TileColor::red;
-    default: return TileColor::gray;
-  }
+  constexpr std::pair<char, TileColor> kColors[] = {{'g', TileColor::green},  {'y', TileColor::yellow},
+                                                    {'o', TileColor::orange}, {'b', TileColor::blue},
+                                                    {'w', TileColor::white},  {'r', TileColor::red}};
+  for (const auto& [letter, color] : kColors)
+    if (letter == tile) return color;
+  return TileColor::gray;
 }
 
 ContentView finishedBoard(const GameShareCase& c) {
@@ -70,6 +68,8 @@ TEST_P(GameShareTest, TextOfTheFinishedBoard) {
   EXPECT_EQ(gameShareText(finishedBoard(GetParam()), clock), GetParam().expected);
 }
 
+// The emoji are four bytes each, which the formatter counts as columns.
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(
     Cases, GameShareTest,
     ::testing::Values(
@@ -104,6 +104,7 @@ INSTANTIATE_TEST_SUITE_P(
         GameShareCase{"type_y_no_line_break", "Y", false, 0, {{"gggggg"}},
                       "Tessarina XX10 enero, 2024\n\n🟩🟩🟩🟩🟩🟩⭐️\n\nHoyo-en-uno ⭐️"}),
     [](const auto& info) { return std::string(info.param.name); });
+// clang-format on
 
 }  // namespace
 }  // namespace tessarine

@@ -166,7 +166,8 @@ TEST(FifthViewTest, SpanishListAndItsText) {
                                                     "9 enero, 2024 Pajarito"}));
   view.pressShare();
   EXPECT_TRUE(view.sharedResults);
-  EXPECT_EQ(listShareText(view), "3 abril, 2022,Par,0\n10 julio, 2022,Recogiendo,3\n9 enero, 2024,Pajarito,-1");
+  EXPECT_EQ(listShareText(view),
+            "3 abril, 2022,Par,0\n10 julio, 2022,Recogiendo,3\n9 enero, 2024,Pajarito,-1");
 }
 
 TEST(FifthViewTest, DateFormatChangesNothingShown) {
@@ -176,7 +177,8 @@ TEST(FifthViewTest, DateFormatChangesNothingShown) {
   view.chooseDateFormat(kDateFormats[6]);
   EXPECT_EQ(view.dateFormat, "yyyy/MM/dd");
   EXPECT_EQ(view.lines(), before);
-  EXPECT_EQ(listShareText(view), "January 9, 2024,Birdie,-1\nJuly 10, 2022,Picking up,3\nApril 3, 2022,Par,0");
+  EXPECT_EQ(listShareText(view),
+            "January 9, 2024,Birdie,-1\nJuly 10, 2022,Picking up,3\nApril 3, 2022,Par,0");
 }
 
 // Played but unfinished games only: the list is empty and sharing it gives nothing, no crash.
@@ -234,7 +236,8 @@ INSTANTIATE_TEST_SUITE_P(
                  "A",
                  {200, 100, 6, 5, 0, 151, 101, 300},
                  {{255, G}, {125, Y}, {10, R}, {5, R}, {5, R}, {190, G}, {130, B}}},
-        BarsCase{"five_rows_top_step", "E", {100, 99, 0, 0, 0, 7}, {{255, G}, {250, G}, {5, R}, {5, R}, {5, R}}},
+        BarsCase{
+            "five_rows_top_step", "E", {100, 99, 0, 0, 0, 7}, {{255, G}, {250, G}, {5, R}, {5, R}, {5, R}}},
         BarsCase{"picking_up_only", "C", {0, 0, 0, 0, 0, 0, 4}, std::vector<Bar>(6, Bar{5, R})},
         BarsCase{"outside_the_classes", "Ó", {1, 2}, std::vector<Bar>(6, Bar{255, P})}),
     [](const auto& info) { return std::string(info.param.name); });
