@@ -243,9 +243,22 @@ bool MainScreenModel::typeText(const QString& typed) {
   return false;
 }
 
+bool MainScreenModel::shareEnabled() const {
+  return host_.session() != nullptr && host_.session()->gameShareText().has_value();
+}
+
+void MainScreenModel::shareGame() {
+  if (host_.session() == nullptr) return;
+  if (const auto text = host_.session()->gameShareText()) host_.share(*text);
+}
+
 void MainScreenModel::touchCell(int cellIndex) {
   const ContentView& v = host_.view();
-  if (v.gameLetters <= 0 || cellIndex / v.gameLetters != v.activeRow || !v.showKeypad) return;
+  if (!v.showKeypad) {
+    host_.act([cellIndex](Session& s) { s.toggleHighlight(cellIndex); });
+    return;
+  }
+  if (v.gameLetters <= 0 || cellIndex / v.gameLetters != v.activeRow) return;
   const int column = cellIndex % v.gameLetters;
   host_.act([column](Session& s) { s.touchCell(column); });
 }

@@ -32,6 +32,7 @@ class MainScreenModel : public QObject {
   Q_PROPERTY(bool greenButtonEnabled READ greenButtonEnabled NOTIFY changed)
   Q_PROPERTY(bool hasHintsButton READ hasHintsButton NOTIFY changed)
   Q_PROPERTY(bool hintsEnabled READ hintsEnabled NOTIFY changed)
+  Q_PROPERTY(bool shareEnabled READ shareEnabled NOTIFY changed)
   // Sizes, from the screen the window reports through resizeViewport().
   Q_PROPERTY(QSizeF viewport READ viewport NOTIFY changed)
   // The width the phone layout is drawn at: the window's, or less where the height would not hold
@@ -67,6 +68,7 @@ class MainScreenModel : public QObject {
   bool greenButtonEnabled() const;
   bool hasHintsButton() const;
   bool hintsEnabled() const { return hintsEnabled_; }
+  bool shareEnabled() const;  // once the game of the shown day is over
 
   QSizeF viewport() const { return viewport_; }
   Q_INVOKABLE void resizeViewport(qreal width, qreal height);
@@ -88,7 +90,10 @@ class MainScreenModel : public QObject {
   Q_INVOKABLE void pressKey(int keyIndex);
   // A key of a physical keyboard: a letter, digit or operator that the keypad has and that is live.
   Q_INVOKABLE bool typeText(const QString& text);
+  // On the active row a touch moves the cursor; on a finished board it hides the tile from the
+  // shared grid, or shows it again.
   Q_INVOKABLE void touchCell(int cellIndex);
+  Q_INVOKABLE void shareGame();
   Q_INVOKABLE void clearCell();
   // Backspace and the arrow keys of a physical keyboard.
   Q_INVOKABLE void backspace();

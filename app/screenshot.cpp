@@ -66,6 +66,13 @@ bool applyScriptStep(SessionHost& host, const QString& step) {
       {QStringLiteral("dates"), [](SessionHost& b) { b.dateBar()->openDateList(); }},
       {QStringLiteral("inactive"), [](SessionHost& b) { b.changePhase(tessarine::ScenePhase::inactive); }},
       {QStringLiteral("active"), [](SessionHost& b) { b.changePhase(tessarine::ScenePhase::active); }},
+      {QStringLiteral("stats"), [](SessionHost& b) { b.statistics()->openStatistics(); }},
+      {QStringLiteral("distribution"), [](SessionHost& b) { b.statistics()->openDistribution(); }},
+      {QStringLiteral("list"), [](SessionHost& b) { b.statistics()->openList(); }},
+      {QStringLiteral("share"), [](SessionHost& b) { b.mainScreen()->shareGame(); }},
+      {QStringLiteral("sharestats"), [](SessionHost& b) { b.statistics()->shareStatistics(); }},
+      {QStringLiteral("sharelist"), [](SessionHost& b) { b.statistics()->shareList(); }},
+      {QStringLiteral("copy"), [](SessionHost& b) { b.shareSheet()->copy(); }},
   };
   const QString lower = step.toLower();
   if (const auto button = buttons.constFind(lower); button != buttons.constEnd()) {
@@ -74,6 +81,10 @@ bool applyScriptStep(SessionHost& host, const QString& step) {
     host.chooseGameType(step.mid(5));
   } else if (lower.startsWith(QStringLiteral("pick:"))) {
     host.dateBar()->pickDate(step.mid(5).toInt());
+  } else if (lower.startsWith(QStringLiteral("sort:"))) {
+    host.statistics()->pressSort(step.mid(5).toInt());
+  } else if (lower.startsWith(QStringLiteral("cell:"))) {
+    host.mainScreen()->touchCell(step.mid(5).toInt());
   } else {
     for (const QChar symbol : step) {
       if (!host.mainScreen()->typeText(QString(symbol))) return false;

@@ -9,7 +9,10 @@ class SessionHost;
 // TESSARINE_SCRIPT   space-separated steps replayed after the first frame: letters, digits and
 //                    operators are key presses; "enter", "backspace", "green", "hint", "confirm",
 //                    "today", "latest", "dates" (open the date list), "pick:N" (confirm its line N),
-//                    "type:T" (choose game type T), "inactive", "active" (scene phases); "keys:WORD",
+//                    "type:T" (choose game type T), "inactive", "active" (scene phases); "stats",
+//                    "distribution", "list" (the statistics sheets), "sort:N" (the sort menu's
+//                    button N), "share", "sharestats", "sharelist" (the three share texts), "copy",
+//                    "cell:N" (touch board cell N); "keys:WORD",
 //                    "keys:enter", "keys:backspace" are real key events sent through the window.
 // TESSARINE_SCREENSHOT  a PNG path: the window is grabbed after the script and the app quits.
 // TESSARINE_FIRST_FRAME  when set, prints the first frame's time and resident memory, then quits.

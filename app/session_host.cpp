@@ -2,15 +2,19 @@
 
 #include <cstdio>
 
+#include "core_text.h"
 #include "session_options.h"
 
 using tessarine::Session;
 
 SessionHost::SessionHost(QObject* parent)
-    : QObject(parent), mainScreen_(*this), dateBar_(*this), alerts_(*this) {
+    : QObject(parent), mainScreen_(*this), dateBar_(*this), alerts_(*this), statistics_(*this) {
   connect(this, &SessionHost::updated, &mainScreen_, &MainScreenModel::refresh);
   connect(this, &SessionHost::updated, &dateBar_, &DateBarModel::changed);
   connect(this, &SessionHost::updated, &alerts_, &AlertsModel::changed);
+  connect(this, &SessionHost::updated, &statistics_, &StatisticsModel::sessionUpdated);
+  connect(this, &SessionHost::updated, &shareSheet_,
+          [this] { shareSheet_.setEnglish(view().EnglishTranslation); });
 }
 
 void SessionHost::attach(Session* session) {
@@ -45,6 +49,11 @@ void SessionHost::act(const std::function<void(Session&)>& action) {
 
 void SessionHost::run(void (Session::*action)()) {
   act([action](Session& s) { (s.*action)(); });
+}
+
+void SessionHost::share(const std::string& text) {
+  if (!ready()) return;
+  sink_->share(fromCore(text));
 }
 
 void SessionHost::changePhase(tessarine::ScenePhase phase) {

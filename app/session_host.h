@@ -9,6 +9,8 @@
 #include "date_bar_model.h"
 #include "main_screen_model.h"
 #include "session/session.h"
+#include "share_sink.h"
+#include "statistics_model.h"
 
 // The one owner of the app's view of the session. It runs every action, turns an error from the
 // core into the fatal state (the message is shown, written to stderr, and every later action
@@ -23,6 +25,8 @@ class SessionHost : public QObject {
   Q_PROPERTY(MainScreenModel* mainScreen READ mainScreen CONSTANT)
   Q_PROPERTY(DateBarModel* dateBar READ dateBar CONSTANT)
   Q_PROPERTY(AlertsModel* alerts READ alerts CONSTANT)
+  Q_PROPERTY(StatisticsModel* statistics READ statistics CONSTANT)
+  Q_PROPERTY(ClipboardShareSink* shareSheet READ shareSheet CONSTANT)
 
  public:
   explicit SessionHost(QObject* parent = nullptr);
@@ -42,6 +46,13 @@ class SessionHost : public QObject {
   MainScreenModel* mainScreen() { return &mainScreen_; }
   DateBarModel* dateBar() { return &dateBar_; }
   AlertsModel* alerts() { return &alerts_; }
+  StatisticsModel* statistics() { return &statistics_; }
+  ClipboardShareSink* shareSheet() { return &shareSheet_; }
+
+  // Every text that leaves the program goes out here. The app's own sheet is the sink unless
+  // main() hands in a platform's; the host does not own it.
+  void setShareSink(ShareSink* sink) { sink_ = sink != nullptr ? sink : &shareSheet_; }
+  void share(const std::string& text);
 
   // Runs an action on the session unless the host is fatal, catches what the core throws, then
   // emits `updated`.
@@ -65,4 +76,7 @@ class SessionHost : public QObject {
   MainScreenModel mainScreen_;
   DateBarModel dateBar_;
   AlertsModel alerts_;
+  StatisticsModel statistics_;
+  ClipboardShareSink shareSheet_;
+  ShareSink* sink_ = &shareSheet_;
 };

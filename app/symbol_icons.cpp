@@ -28,6 +28,12 @@ const QHash<QString, char16_t>& table() {
       {QStringLiteral("parkingsign.circle"), 0xe54f},             // local_parking
       {QStringLiteral("lightbulb"), 0xe0f0},                      // lightbulb: the hints button
       {QStringLiteral("checkmark.square"), 0xe834},               // check_box: the green button
+      {QStringLiteral("chevron.left"), 0xe5cb},                   // chevron_left
+      {QStringLiteral("chart.bar"), 0xe26b},                      // bar_chart: the statistics button
+      {QStringLiteral("chart.bar.doc.horizontal"), 0xe24b},       // insert_chart
+      {QStringLiteral("list.bullet.rectangle"), 0xe0ee},          // list_alt
+      {QStringLiteral("arrow.up.arrow.down.square"), 0xe8d5},     // swap_vert
+      {QStringLiteral("doc.on.doc"), 0xe14d},                     // content_copy
       {QStringLiteral("graduationcap.blank"), 0},
       {QStringLiteral("parkingsign.blank"), 0},
   };

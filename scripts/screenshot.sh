@@ -10,7 +10,8 @@
 # --size      the window as WIDTHxHEIGHT (default 390x844)
 # --script    steps replayed after the first frame: words are typed as key presses, and "enter",
 #             "backspace", "clearrow", "green", "hint", "confirm", "today", "latest", "type:T",
-#             "pick:N" are the buttons (see app/screenshot.h)
+#             "pick:N", "stats", "distribution", "list", "sort:N", "share", "sharestats",
+#             "sharelist", "copy", "cell:N" are the buttons and sheets (see app/screenshot.h)
 # The app binary is $TESSARINE_APP, else the newest build/*/app/tessarine.
 set -euo pipefail
 here="$(cd "$(dirname "$0")/.." && pwd)"

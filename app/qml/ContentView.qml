@@ -13,7 +13,6 @@ Rectangle {
 
     signal openOptions()
     signal openHelp()
-    signal openShare()
 
     // Popups and sheets take the keyboard while they are up; the board takes it back after.
     function takeKeyboard() {
@@ -80,9 +79,11 @@ Rectangle {
                     anchors.right: parent.right
                     anchors.rightMargin: 8
                     anchors.verticalCenter: parent.verticalCenter
+                    objectName: "shareGameButton"
                     symbol: "square.and.arrow.up"
                     name: "Share"
-                    onClicked: screen.openShare()
+                    enabled: screen.game.shareEnabled
+                    onClicked: screen.game.shareGame()
                 }
             }
 
@@ -91,6 +92,7 @@ Rectangle {
                 width: Math.max(parent.width, Math.min(screen.width - 8, 400))
                 dates: screen.host.dateBar
                 onOpenDateList: dateWheel.open()
+                onOpenStatistics: screen.host.statistics.openStatistics()
             }
 
             Board {

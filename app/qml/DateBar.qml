@@ -6,6 +6,7 @@ Column {
     id: bar
     required property DateBarModel dates
     signal openDateList()
+    signal openStatistics()
     spacing: 2
 
     Row {
@@ -46,6 +47,12 @@ Column {
             name: "Today"
             enabled: bar.dates.currentEnabled
             onClicked: bar.dates.goToToday()
+        }
+        IconButton {
+            objectName: "statisticsButton"
+            symbol: "chart.bar"
+            name: "Statistics"
+            onClicked: bar.openStatistics()
         }
     }
     Row {

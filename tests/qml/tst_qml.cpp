@@ -1,6 +1,8 @@
 // The Qt Quick tests run against a real session: a temporary data directory per test file, the
 // lists of the source tree, a pinned day and a seeded random source. The QML reaches the session
 // host and today's answer through the TestSession singleton.
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QQmlEngine>
 #include <QTemporaryDir>
 #include <QtQuickTest>
@@ -47,6 +49,8 @@ class TestSession : public QObject {
     const int day = tessarine::daysFromApril1st(game_.clock) - 1;
     return QString::fromStdString(game_.lists.answer("C", day));
   }
+  // What a paste elsewhere would receive.
+  Q_INVOKABLE static QString clipboardText() { return QGuiApplication::clipboard()->text(); }
 
  private:
   TestGame& game_;
