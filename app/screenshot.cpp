@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "input_timing.h"
 #include "session_host.h"
 
 namespace {
@@ -96,6 +97,10 @@ bool applyScriptStep(SessionHost& host, const QString& step) {
 void runScriptedSession(QQuickWindow& window, SessionHost& host) {
   const QString shot = qEnvironmentVariable("TESSARINE_SCREENSHOT");
   const bool timing = qEnvironmentVariableIsSet("TESSARINE_FIRST_FRAME");
+  if (qEnvironmentVariableIsSet("TESSARINE_INPUT_TIMING")) {
+    QTimer::singleShot(300, &window, [&window, &host] { runInputTiming(window, host); });
+    return;
+  }
   if (shot.isEmpty() && !timing) return;
   // "WIDTHxHEIGHT": the window as a device of that size would show it.
   const QStringList size = qEnvironmentVariable("TESSARINE_WINDOW_SIZE").split(QLatin1Char('x'));
