@@ -79,7 +79,7 @@ double fittedLayoutWidth(const std::string& gameType, bool useQWERTY, int boardR
                          double height) {
   // What does not grow with the width: the title bar, the date bar, the reserved message line,
   // the buttons under the keypad, the two hint lines and the margins; then the gaps of the rows.
-  constexpr double kFixed = 352;
+  constexpr double kFixed = 368;
   constexpr double kTileGap = 4, kKeyGap = 6, kKeyAspect = 1.45;
   // Tiles and keys are fractions of the width, so the screen's height is a line in the width.
   const BoardMetrics perUnit = boardMetrics(gameType, useQWERTY, 1.0, height);

@@ -20,12 +20,12 @@ const QHash<QString, char16_t>& table() {
       {QStringLiteral("star.fill"), 0xe838},                      // star
       {QStringLiteral("exclamationmark.questionmark"), 0xe94c},   // contact_support
       {QStringLiteral("questionmark"), 0xeb8b},                   // question_mark
-      {QStringLiteral("exclamationmark.2"), 0xe645},              // priority_high
+      {QStringLiteral("exclamationmark.2"), 0x203c},              // double exclamation mark, text font
       {QStringLiteral("exclamationmark.triangle.fill"), 0xe002},  // warning
       {QStringLiteral("multiply"), 0xe5cd},                       // close
       {QStringLiteral("questionmark.circle"), 0xe8fd},            // help_outline
       {QStringLiteral("graduationcap.fill"), 0xe80c},             // school
-      {QStringLiteral("parkingsign.circle"), 0xe54f},             // local_parking
+      {QStringLiteral("parkingsign.circle"), u'P'},                // a P in a drawn circle, text font
       {QStringLiteral("lightbulb"), 0xe0f0},                      // lightbulb: the hints button
       {QStringLiteral("checkmark.square"), 0xe834},               // check_box: the green button
       {QStringLiteral("chevron.left"), 0xe5cb},                   // chevron_left
@@ -46,6 +46,16 @@ QString SymbolIcons::glyph(const QString& symbolName) {
   const auto found = table().constFind(symbolName);
   if (found == table().constEnd() || found.value() == 0) return {};
   return QString(QChar(found.value()));
+}
+
+bool SymbolIcons::textGlyph(const QString& symbolName) {
+  // The icon font has neither a circled P nor a double exclamation mark: the text font draws them.
+  const QString drawn = glyph(symbolName);
+  return !drawn.isEmpty() && drawn.at(0).unicode() < 0xe000;
+}
+
+bool SymbolIcons::circled(const QString& symbolName) {
+  return symbolName == QLatin1String("parkingsign.circle");
 }
 
 bool SymbolIcons::knows(const QString& symbolName) {

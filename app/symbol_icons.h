@@ -15,6 +15,10 @@ class SymbolIcons : public QObject {
   using QObject::QObject;
   // The glyph for a symbol name; an unknown name is an empty string so nothing wrong is drawn.
   Q_INVOKABLE static QString glyph(const QString& symbolName);
+  // Whether the glyph comes from the text font rather than the icon font.
+  Q_INVOKABLE static bool textGlyph(const QString& symbolName);
+  // Whether the glyph stands in a drawn circle.
+  Q_INVOKABLE static bool circled(const QString& symbolName);
   // Whether the table knows the name (blank names included).
   static bool knows(const QString& symbolName);
 };

@@ -114,11 +114,11 @@ Rectangle {
                 objectName: "refusalMessage"
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: parent.width - 32
-                height: 36
+                height: 52
                 text: screen.game.refusalMessage
                 textFormat: Text.PlainText
                 wrapMode: Text.Wrap
-                maximumLineCount: 2
+                maximumLineCount: 4
                 elide: Text.ElideRight
                 fontSizeMode: Text.VerticalFit
                 minimumPixelSize: 10

@@ -11,12 +11,24 @@ Text {
         id: iconFont
         source: "qrc:/Tessarine/fonts/MaterialIcons-Regular.ttf"
     }
-    font.family: iconFont.name
-    font.pixelSize: size
+    font.family: Icons.textGlyph(symbol) ? "DejaVu Sans" : iconFont.name
+    font.bold: Icons.textGlyph(symbol)
+    font.pixelSize: Icons.circled(symbol) ? size * 0.7 : size
     text: Icons.glyph(symbol)
     width: size
     height: size
     horizontalAlignment: Text.AlignHCenter
     verticalAlignment: Text.AlignVCenter
     Accessible.ignored: true
+
+    Rectangle {
+        anchors.centerIn: parent
+        width: icon.size
+        height: icon.size
+        radius: icon.size / 2
+        color: "transparent"
+        border.width: Math.max(1.5, icon.size / 12)
+        border.color: icon.color
+        visible: Icons.circled(icon.symbol)
+    }
 }
