@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "match_script.h"
 #include "session_host.h"
 
 namespace {
@@ -67,6 +68,8 @@ bool applyScriptStep(SessionHost& host, const QString& step) {
       {QStringLiteral("inactive"), [](SessionHost& b) { b.changePhase(tessarine::ScenePhase::inactive); }},
       {QStringLiteral("active"), [](SessionHost& b) { b.changePhase(tessarine::ScenePhase::active); }},
   };
+  if (step.startsWith(QStringLiteral("m:")) || step.startsWith(QStringLiteral("challenge")))
+    return applyMatchStep(host, step);
   const QString lower = step.toLower();
   if (const auto button = buttons.constFind(lower); button != buttons.constEnd()) {
     button.value()(host);

@@ -10,7 +10,8 @@ class SessionHost;
 //                    operators are key presses; "enter", "backspace", "green", "hint", "confirm",
 //                    "today", "latest", "dates" (open the date list), "pick:N" (confirm its line N),
 //                    "type:T" (choose game type T), "inactive", "active" (scene phases); "keys:WORD",
-//                    "keys:enter", "keys:backspace" are real key events sent through the window.
+//                    "keys:enter", "keys:backspace" are real key events sent through the window;
+//                    the challenge screens have their own steps (match_script.h).
 // TESSARINE_SCREENSHOT  a PNG path: the window is grabbed after the script and the app quits.
 // TESSARINE_FIRST_FRAME  when set, prints the first frame's time and resident memory, then quits.
 void runScriptedSession(QQuickWindow& window, SessionHost& host);

@@ -7,10 +7,11 @@
 using tessarine::Session;
 
 SessionHost::SessionHost(QObject* parent)
-    : QObject(parent), mainScreen_(*this), dateBar_(*this), alerts_(*this) {
+    : QObject(parent), mainScreen_(*this), dateBar_(*this), alerts_(*this), match_(*this) {
   connect(this, &SessionHost::updated, &mainScreen_, &MainScreenModel::refresh);
   connect(this, &SessionHost::updated, &dateBar_, &DateBarModel::changed);
   connect(this, &SessionHost::updated, &alerts_, &AlertsModel::changed);
+  connect(this, &SessionHost::updated, &match_, &MatchModel::refresh);
 }
 
 void SessionHost::attach(Session* session) {

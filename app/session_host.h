@@ -8,6 +8,7 @@
 #include "alerts_model.h"
 #include "date_bar_model.h"
 #include "main_screen_model.h"
+#include "match_model.h"
 #include "session/session.h"
 
 // The one owner of the app's view of the session. It runs every action, turns an error from the
@@ -23,6 +24,7 @@ class SessionHost : public QObject {
   Q_PROPERTY(MainScreenModel* mainScreen READ mainScreen CONSTANT)
   Q_PROPERTY(DateBarModel* dateBar READ dateBar CONSTANT)
   Q_PROPERTY(AlertsModel* alerts READ alerts CONSTANT)
+  Q_PROPERTY(MatchModel* match READ match CONSTANT)
 
  public:
   explicit SessionHost(QObject* parent = nullptr);
@@ -42,6 +44,7 @@ class SessionHost : public QObject {
   MainScreenModel* mainScreen() { return &mainScreen_; }
   DateBarModel* dateBar() { return &dateBar_; }
   AlertsModel* alerts() { return &alerts_; }
+  MatchModel* match() { return &match_; }
 
   // Runs an action on the session unless the host is fatal, catches what the core throws, then
   // emits `updated`.
@@ -65,4 +68,5 @@ class SessionHost : public QObject {
   MainScreenModel mainScreen_;
   DateBarModel dateBar_;
   AlertsModel alerts_;
+  MatchModel match_;
 };

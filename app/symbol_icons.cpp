@@ -28,6 +28,15 @@ const QHash<QString, char16_t>& table() {
       {QStringLiteral("parkingsign.circle"), 0xe54f},             // local_parking
       {QStringLiteral("lightbulb"), 0xe0f0},                      // lightbulb: the hints button
       {QStringLiteral("checkmark.square"), 0xe834},               // check_box: the green button
+      {QStringLiteral("checkmark.square.fill"), 0xe834},          // check_box: a lit lamp
+      {QStringLiteral("square"), 0xe835},                         // check_box_outline_blank
+      {QStringLiteral("circle.circle"), 0xe837},                  // radio_button_checked
+      {QStringLiteral("figure.walk.diamond"), 0xe536},            // directions_walk
+      {QStringLiteral("arrow.uturn.backward.square"), 0xe166},    // undo
+      {QStringLiteral("chevron.left"), 0xe5cb},                   // chevron_left
+      {QStringLiteral("doc.on.clipboard"), 0xe14f},               // content_paste
+      {QStringLiteral("chart.bar"), 0xe26b},                      // bar_chart
+      {QStringLiteral("square.and.arrow.down"), 0xe161},          // save
       {QStringLiteral("graduationcap.blank"), 0},
       {QStringLiteral("parkingsign.blank"), 0},
   };
