@@ -103,8 +103,8 @@ void runScriptedSession(QQuickWindow& window, SessionHost& host) {
       }
     }
     replay(window, host, qEnvironmentVariable("TESSARINE_SCRIPT"));
-    // Let the bindings settle and a frame render before the grab.
-    QTimer::singleShot(200, &window, [&window, shot] {
+    // Let the bindings settle, a sheet's slide end and a frame render before the grab.
+    QTimer::singleShot(700, &window, [&window, shot] {
       const QImage image = window.grabWindow();
       const bool saved = image.save(shot);
       std::fprintf(stderr, "%s %s\n", saved ? "Saved" : "Could not save", qPrintable(shot));

@@ -57,7 +57,7 @@ Rectangle {
             Text {
                 anchors.centerIn: parent
                 text: screen.match.texts.heading
-                font.pixelSize: 22
+                font.pixelSize: 18
                 font.bold: true
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
