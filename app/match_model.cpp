@@ -31,7 +31,8 @@ std::vector<TileItem> digitPadItems() {
 
 }  // namespace
 
-MatchModel::MatchModel(SessionHost& host) : QObject(&host), host_(host), texts_(this), board_(this), keypad_(this), digitPad_(this) {
+MatchModel::MatchModel(SessionHost& host)
+    : QObject(&host), host_(host), texts_(this), board_(this), keypad_(this), digitPad_(this) {
   digitPad_.setItems(digitPadItems());
 }
 
@@ -62,8 +63,8 @@ void MatchModel::refresh() {
   const tessarine::MatchState& m = match_->state();
   texts_.load(m.gameType, english());
   board_.setItems(boardItems(m.board, m.numGuesses));
-  std::vector<TileItem> keys =
-      keypadItems(m.keypad, keyRows(m.keypad, m.board.typeOfGame, host_.view().useQWERTY), m.board.typeOfGame == "E");
+  std::vector<TileItem> keys = keypadItems(
+      m.keypad, keyRows(m.keypad, m.board.typeOfGame, host_.view().useQWERTY), m.board.typeOfGame == "E");
   for (TileItem& key : keys)
     key.live = key.colorName != QLatin1String("black");
   keypad_.setItems(std::move(keys));
@@ -84,7 +85,8 @@ int MatchModel::keyCursor() const {
 qreal MatchModel::cellWidth() const {
   const QSizeF viewport = host_.mainScreen()->viewport();
   const std::string type = match_ != nullptr ? match_->state().gameType : host_.view().gameType;
-  const double width = boardMetrics(type, host_.view().useQWERTY, viewport.width(), viewport.height()).cellWidth;
+  const double width =
+      boardMetrics(type, host_.view().useQWERTY, viewport.width(), viewport.height()).cellWidth;
   // Eight rows and the keypad share the screen: the rows take at most two fifths of it.
   return std::min(width, viewport.height() * 0.4 / tessarine::kMatchRows - 4);
 }
@@ -147,8 +149,9 @@ QStringList MatchModel::savedNames() const {
 }
 
 QString MatchModel::statisticsTitle() const {
-  return match_ != nullptr ? fromCore(tessarine::challengeStatisticsTitle(match_->state().gameType, english()))
-                           : QString();
+  return match_ != nullptr
+             ? fromCore(tessarine::challengeStatisticsTitle(match_->state().gameType, english()))
+             : QString();
 }
 
 QStringList MatchModel::statisticsLines() const {

@@ -9,7 +9,8 @@ bool applyMatchStep(SessionHost& host, const QString& step) {
   using Action = void (*)(MatchModel&);
   static const QHash<QString, Action> buttons = {
       {QStringLiteral("challenge"), [](MatchModel& m) { m.requestScreen(QStringLiteral("challenge")); }},
-      {QStringLiteral("challengestats"), [](MatchModel& m) { m.requestScreen(QStringLiteral("statistics")); }},
+      {QStringLiteral("challengestats"),
+       [](MatchModel& m) { m.requestScreen(QStringLiteral("statistics")); }},
       {QStringLiteral("m:accept"), [](MatchModel& m) { m.accept(); }},
       {QStringLiteral("m:submit"), [](MatchModel& m) { m.submit(); }},
       {QStringLiteral("m:walk"), [](MatchModel& m) { m.toggleWalk(); }},

@@ -30,7 +30,8 @@ class MatchTexts : public QObject {
   // Takes the words of `gameType` in the language chosen; emits `changed` when any differs.
   void load(const std::string& gameType, bool english);
 
-  QString heading, balls, strikes, accept, paste, saveTitle, namePrompt, save, cancel, remove, deleteTitle, selectTitle, selectButton, continueSaved;
+  QString heading, balls, strikes, accept, paste, saveTitle, namePrompt, save, cancel, remove, deleteTitle,
+      selectTitle, selectButton, continueSaved;
 
  signals:
   void changed();

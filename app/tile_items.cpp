@@ -33,8 +33,8 @@ std::vector<TileItem> boardItems(const tessarine::Board& board, int rows) {
   return items;
 }
 
-std::vector<TileItem> keypadItems(const tessarine::Keypad& keypad, const std::vector<std::vector<int>>& keyRows,
-                                  bool equation) {
+std::vector<TileItem> keypadItems(const tessarine::Keypad& keypad,
+                                  const std::vector<std::vector<int>>& keyRows, bool equation) {
   const int keys = std::min(keypad.keypadNumber, static_cast<int>(keypad.keypadLetters.size()));
   std::vector<TileItem> items;
   for (int i = 0; i < keys; ++i) {
@@ -44,7 +44,8 @@ std::vector<TileItem> keypadItems(const tessarine::Keypad& keypad, const std::ve
   // A layout can name more keys than a keypad that is not set up yet has.
   for (std::size_t row = 0; row < keyRows.size(); ++row) {
     int column = 0;
-    const auto present = std::count_if(keyRows[row].begin(), keyRows[row].end(), [keys](int k) { return k < keys; });
+    const auto present =
+        std::count_if(keyRows[row].begin(), keyRows[row].end(), [keys](int k) { return k < keys; });
     for (const int key : keyRows[row]) {
       if (key >= keys) continue;
       TileItem& item = items[static_cast<std::size_t>(key)];

@@ -15,5 +15,5 @@ TileItem tileItem(const std::string& symbol, tessarine::TileColor color, bool eq
 std::vector<TileItem> boardItems(const tessarine::Board& board, int rows);
 
 // The keys of `keypad` placed in `keyRows` (indices into its letters); every key starts live.
-std::vector<TileItem> keypadItems(const tessarine::Keypad& keypad, const std::vector<std::vector<int>>& keyRows,
-                                  bool equation);
+std::vector<TileItem> keypadItems(const tessarine::Keypad& keypad,
+                                  const std::vector<std::vector<int>>& keyRows, bool equation);

@@ -8,7 +8,8 @@
 namespace tessarine {
 
 bool Match::typeKey(const std::string& digits) {
-  if (m_.activeRow() != -1 || digits.size() != 6 || digits.find_first_not_of("0123456789") != std::string::npos)
+  if (m_.activeRow() != -1 || digits.size() != 6 ||
+      digits.find_first_not_of("0123456789") != std::string::npos)
     return false;
   clearKey();
   for (const char digit : digits)
