@@ -89,5 +89,26 @@ Item {
             tryCompare(sheets, "busy", false)
             compare(sheets.depth, 1)
         }
+
+        // A saved name is the player's text: markup in it is shown as typed, never drawn.
+        function test_saved_matches_show_their_names_as_typed() {
+            const names = ["<b>Ana</b>", "Lunch"]
+            for (const name of names) {
+                openMatch()
+                for (const letter of "CRANE") tap("key_" + letter)
+                tap("matchSubmitButton")
+                verify(!match.save("   "), "a blank name is refused")
+                compare(match.message, "Name Must Be 1 - 20 Characters")
+                verify(match.save(name))
+                sheets.closeSheet()
+                tryCompare(sheets, "busy", false)
+            }
+            openMatch()
+            compare(match.savedNames, names)
+            const shown = findChild(sheets.currentItem, "savedName_0")
+            compare(shown.text, names[0])
+            compare(shown.textFormat, Text.PlainText)
+            verify(shown.visible)
+        }
     }
 }
