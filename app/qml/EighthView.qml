@@ -163,10 +163,12 @@ Rectangle {
             keyWidth: screen.match.keyWidth
             onKeyPressed: (index) => screen.match.pressKey(index)
         }
+        // A signal fill stands without the keypad; it still needs submit and undo.
         MatchButtons {
             anchors.horizontalCenter: parent.horizontalCenter
             match: screen.match
-            visible: screen.match.showKeypad
+            visible: !screen.match.gameOver && (screen.match.showKeypad || screen.match.submitEnabled
+                                                || screen.match.showUndo || screen.match.showWalkButton)
         }
     }
 

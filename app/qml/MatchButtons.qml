@@ -43,6 +43,7 @@ Row {
     IconButton {
         symbol: "clear"
         name: "Clear cell"
+        visible: buttons.match.showKeypad
         onClicked: buttons.match.clearCell()
     }
     IconButton {

@@ -6,6 +6,7 @@ QtObject {
     readonly property var fills: ({
         white: "#ffffff", gray: "#8e8e93", green: "#34c759", blue: "#007aff", yellow: "#ffcc00",
         orange: "#ff9500", red: "#ff3b30", cyan: "#32ade6", purple: "#af52de", black: "#000000",
+        pink: "#ff2d55",
         currentMode: "#000000"
     })
     readonly property var darkInk: ["white", "yellow", "cyan"]

@@ -76,7 +76,8 @@ Item {
             verify(!match.active)
         }
 
-        // The initiator's opening guess gives the send button the first label and the choices.
+        // The initiator's opening guess gives the send button the first label and the choices; a
+        // reported walk is submitted from the buttons under the board.
         function test_opening_guess_shows_the_choices() {
             openMatch()
             for (const letter of "CRANE") tap("key_" + letter)
@@ -85,6 +86,11 @@ Item {
             compare(findChild(sheets.currentItem, "sendButton").label, "Start Challenge")
             compare(match.choiceLabels, ["2nd Guess Received", "Opponent Found Answer", "Opponent Walked",
                                          "Opponent Struck Out"])
+            // A signal stands without the keypad, and submit still reaches it.
+            tap("choice_2")
+            verify(!match.showKeypad)
+            tap("matchSubmitButton")
+            verify(match.showKeypad, "the player's own turn follows the walk")
             tap("backButton")
             tryCompare(sheets, "busy", false)
             compare(sheets.depth, 1)
