@@ -9,7 +9,8 @@
 #             fresh settings store before the start; needs the sqlite3 command
 # --script    steps replayed after the first frame: words are typed as key presses, and "enter",
 #             "backspace", "clearrow", "green", "hint", "confirm", "today", "latest", "type:T",
-#             "pick:N" are the buttons (see app/screenshot.h)
+#             "pick:N" are the buttons (see app/screenshot.h); "challenge" opens the match screen and
+#             "m:accept", "m:type:TEXT", "m:submit", "m:choose:N", ... drive it (app/match_script.h)
 # The app binary is $TESSARINE_APP, else the newest build/*/app/tessarine.
 set -euo pipefail
 here="$(cd "$(dirname "$0")/.." && pwd)"

@@ -126,7 +126,7 @@ Rectangle {
             text: screen.match.message
             textFormat: Text.PlainText
             font.pixelSize: 14
-            color: "#ff3b30"
+            color: "#3c3c43"
             visible: text.length > 0
         }
     }
