@@ -14,6 +14,8 @@ StackView {
     }
     function closeSheet() {
         if (sheets.depth > 1) sheets.pop()
+        // The keyboard goes back to the screen underneath.
+        if (sheets.currentItem) sheets.currentItem.forceActiveFocus()
     }
     // The challenge of the game type on the main screen; the options screen's "Play Challenge".
     function openChallenge() {
