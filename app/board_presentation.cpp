@@ -32,16 +32,21 @@ std::string alphabeticalKey(const std::string& symbol) {
 }  // namespace
 
 std::vector<std::vector<int>> keyRows(const ContentView& view) {
-  const int keys = std::min(view.keypadNumber, static_cast<int>(view.keypadLetters.size()));
-  if (view.typeOfGame == "N") return {range(0, 3), range(3, 6), range(6, 9), range(9, keys)};
-  if (view.typeOfGame == "E") return {range(0, 4), range(4, 8), range(8, 12), range(12, keys)};
-  if (view.useQWERTY) {
+  return keyRows(view, view.typeOfGame, view.useQWERTY);
+}
+
+std::vector<std::vector<int>> keyRows(const tessarine::Keypad& keypad, const std::string& typeOfGame,
+                                      bool useQWERTY) {
+  const int keys = std::min(keypad.keypadNumber, static_cast<int>(keypad.keypadLetters.size()));
+  if (typeOfGame == "N") return {range(0, 3), range(3, 6), range(6, 9), range(9, keys)};
+  if (typeOfGame == "E") return {range(0, 4), range(4, 8), range(8, 12), range(12, keys)};
+  if (useQWERTY) {
     const int second = keys == 27 ? 20 : 19;  // the Spanish middle row ends with Ñ
     return {range(0, 10), range(10, second), range(second, keys)};
   }
   std::vector<int> order = range(0, keys);
   std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
-    return alphabeticalKey(view.keypadLetters[a]) < alphabeticalKey(view.keypadLetters[b]);
+    return alphabeticalKey(keypad.keypadLetters[a]) < alphabeticalKey(keypad.keypadLetters[b]);
   });
   std::vector<std::vector<int>> rows;
   for (std::size_t i = 0; i < order.size(); i += kAlphaKeysPerRow) {

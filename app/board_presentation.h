@@ -11,6 +11,9 @@
 // Key indices into `keypadLetters`, one list per keypad row on screen. The letters are laid out
 // as QWERTY or, without it, alphabetically in four rows; the array order never changes.
 std::vector<std::vector<int>> keyRows(const tessarine::ContentView& view);
+// The same for any keypad, a match's too.
+std::vector<std::vector<int>> keyRows(const tessarine::Keypad& keypad, const std::string& typeOfGame,
+                                      bool useQWERTY);
 
 // Tile and key widths in logical pixels for a screen of `width` x `height`.
 struct BoardMetrics {

@@ -9,30 +9,13 @@
 #include "screens/refusal_message.h"
 #include "session/session_texts.h"
 #include "session_host.h"
+#include "tile_items.h"
 #include "tile_texts.h"
 
 using tessarine::ContentView;
 using tessarine::Session;
 
 namespace {
-
-QString colorName(tessarine::TileColor color) {
-  return fromCore(tessarine::tileColorName(color));
-}
-
-bool isEquation(const ContentView& view) {
-  return view.typeOfGame == "E";
-}
-
-TileItem tileItem(const std::string& symbol, tessarine::TileColor color, bool equation) {
-  TileItem item;
-  // The record's empty cell is three blanks; the screen draws nothing for it.
-  item.symbol = symbol == tessarine::kEmptyCell ? QString() : fromCore(symbol);
-  item.colorName = colorName(color);
-  item.glyph = glyphFor(item.symbol, equation);
-  item.spokenName = spokenName(item.symbol, item.colorName, equation);
-  return item;
-}
 
 // The lists are read on first use; a missing one is reported by the action that needed it first.
 template <typename Read>
@@ -59,45 +42,13 @@ void MainScreenModel::refresh() {
 
 void MainScreenModel::rebuildBoard() {
   const ContentView& view = host_.view();
-  const int columns = std::max(view.gameLetters, 0);
-  const int cells = std::min(view.gameRows * columns, tessarine::kMaximumCells);
-  std::vector<TileItem> items;
-  items.reserve(static_cast<std::size_t>(std::max(cells, 0)));
-  for (int i = 0; i < cells; ++i) {
-    TileItem item = tileItem(view.cellLetter[i], view.cellBackground[i], isEquation(view));
-    item.borderWidth = view.cellBorderWidth[i];
-    item.gridRow = i / columns;
-    item.gridColumn = i % columns;
-    item.rowLength = columns;
-    item.spokenName = QStringLiteral("row %1, column %2, ").arg(item.gridRow + 1).arg(item.gridColumn + 1) + item.spokenName;
-    items.push_back(std::move(item));
-  }
-  board_.setItems(std::move(items));
+  board_.setItems(boardItems(view, view.gameRows));
 }
 
 void MainScreenModel::rebuildKeypad() {
   const ContentView& view = host_.view();
-  const int keys = std::min(view.keypadNumber, static_cast<int>(view.keypadLetters.size()));
-  std::vector<TileItem> items;
-  for (int i = 0; i < keys; ++i)
-    items.push_back(tileItem(view.keypadLetters[i], view.keypadKeyColor[i], isEquation(view)));
-  // The family's layout names more keys than a keypad that is not set up yet has.
-  std::vector<std::vector<int>> rows;
-  for (const auto& row : keyRows(view)) {
-    rows.emplace_back();
-    for (int key : row) {
-      if (key < keys) rows.back().push_back(key);
-    }
-  }
-  for (std::size_t row = 0; row < rows.size(); ++row) {
-    for (std::size_t column = 0; column < rows[row].size(); ++column) {
-      TileItem& item = items[static_cast<std::size_t>(rows[row][column])];
-      item.gridRow = static_cast<int>(row);
-      item.gridColumn = static_cast<int>(column);
-      item.rowLength = static_cast<int>(rows[row].size());
-    }
-  }
-  for (int i = 0; i < keys; ++i) {
+  std::vector<TileItem> items = keypadItems(view, keyRows(view), view.typeOfGame == "E");
+  for (std::size_t i = 0; i < items.size(); ++i) {
     try {
       items[i].live = host_.ready() && host_.session()->keyLive(view.keypadLetters[i]);
     } catch (const tessarine::FatalError&) {

@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "input_timing.h"
+#include "match_script.h"
 #include "session_host.h"
 
 namespace {
@@ -75,6 +76,8 @@ bool applyScriptStep(SessionHost& host, const QString& step) {
       {QStringLiteral("sharelist"), [](SessionHost& b) { b.statistics()->shareList(); }},
       {QStringLiteral("copy"), [](SessionHost& b) { b.shareSheet()->copy(); }},
   };
+  if (step.startsWith(QStringLiteral("m:")) || step.startsWith(QStringLiteral("challenge")))
+    return applyMatchStep(host, step);
   const QString lower = step.toLower();
   if (const auto button = buttons.constFind(lower); button != buttons.constEnd()) {
     button.value()(host);
@@ -119,8 +122,8 @@ void runScriptedSession(QQuickWindow& window, SessionHost& host) {
       }
     }
     replay(window, host, qEnvironmentVariable("TESSARINE_SCRIPT"));
-    // Let the bindings settle and a frame render before the grab.
-    QTimer::singleShot(200, &window, [&window, shot] {
+    // Let the bindings settle, a sheet's slide end and a frame render before the grab.
+    QTimer::singleShot(700, &window, [&window, shot] {
       const QImage image = window.grabWindow();
       const bool saved = image.save(shot);
       std::fprintf(stderr, "%s %s\n", saved ? "Saved" : "Could not save", qPrintable(shot));

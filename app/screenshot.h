@@ -13,7 +13,8 @@ class SessionHost;
 //                    "distribution", "list" (the statistics sheets), "sort:N" (the sort menu's
 //                    button N), "share", "sharestats", "sharelist" (the three share texts), "copy",
 //                    "cell:N" (touch board cell N); "keys:WORD",
-//                    "keys:enter", "keys:backspace" are real key events sent through the window.
+//                    "keys:enter", "keys:backspace" are real key events sent through the window;
+//                    the challenge screens have their own steps (match_script.h).
 // TESSARINE_SCREENSHOT  a PNG path: the window is grabbed after the script and the app quits.
 // TESSARINE_FIRST_FRAME  when set, prints the first frame's time and resident memory, then quits.
 void runScriptedSession(QQuickWindow& window, SessionHost& host);

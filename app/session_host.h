@@ -8,6 +8,7 @@
 #include "alerts_model.h"
 #include "date_bar_model.h"
 #include "main_screen_model.h"
+#include "match_model.h"
 #include "session/session.h"
 #include "share_sink.h"
 #include "statistics_model.h"
@@ -27,6 +28,7 @@ class SessionHost : public QObject {
   Q_PROPERTY(AlertsModel* alerts READ alerts CONSTANT)
   Q_PROPERTY(StatisticsModel* statistics READ statistics CONSTANT)
   Q_PROPERTY(ClipboardShareSink* shareSheet READ shareSheet CONSTANT)
+  Q_PROPERTY(MatchModel* match READ match CONSTANT)
 
  public:
   explicit SessionHost(QObject* parent = nullptr);
@@ -53,6 +55,7 @@ class SessionHost : public QObject {
   // main() hands in a platform's; the host does not own it.
   void setShareSink(ShareSink* sink) { sink_ = sink != nullptr ? sink : &shareSheet_; }
   void share(const std::string& text);
+  MatchModel* match() { return &match_; }
 
   // Runs an action on the session unless the host is fatal, catches what the core throws, then
   // emits `updated`.
@@ -79,4 +82,5 @@ class SessionHost : public QObject {
   StatisticsModel statistics_;
   ClipboardShareSink shareSheet_;
   ShareSink* sink_ = &shareSheet_;
+  MatchModel match_;
 };

@@ -34,3 +34,8 @@ void ClipboardShareSink::copy() {
   copied_ = true;
   emit changed();
 }
+
+QString readPastedText() {
+  const QClipboard* clipboard = QGuiApplication::clipboard();
+  return clipboard != nullptr ? clipboard->text() : QString();
+}

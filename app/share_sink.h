@@ -50,3 +50,6 @@ class ClipboardShareSink : public QObject, public ShareSink {
   bool copied_ = false;
   bool english_ = true;
 };
+
+// A text the player received and copied: the other phone's challenge message.
+QString readPastedText();

@@ -34,6 +34,13 @@ const QHash<QString, char16_t>& table() {
       {QStringLiteral("list.bullet.rectangle"), 0xe0ee},          // list_alt
       {QStringLiteral("arrow.up.arrow.down.square"), 0xe8d5},     // swap_vert
       {QStringLiteral("doc.on.doc"), 0xe14d},                     // content_copy
+      {QStringLiteral("checkmark.square.fill"), 0xe834},          // check_box: a lit lamp
+      {QStringLiteral("square"), 0xe835},                         // check_box_outline_blank
+      {QStringLiteral("circle.circle"), 0xe837},                  // radio_button_checked
+      {QStringLiteral("figure.walk.diamond"), 0xe536},            // directions_walk
+      {QStringLiteral("arrow.uturn.backward.square"), 0xe166},    // undo
+      {QStringLiteral("doc.on.clipboard"), 0xe14f},               // content_paste
+      {QStringLiteral("square.and.arrow.down"), 0xe161},          // save
       {QStringLiteral("graduationcap.blank"), 0},
       {QStringLiteral("parkingsign.blank"), 0},
   };

@@ -12,6 +12,8 @@
 #             "backspace", "clearrow", "green", "hint", "confirm", "today", "latest", "type:T",
 #             "pick:N", "stats", "distribution", "list", "sort:N", "share", "sharestats",
 #             "sharelist", "copy", "cell:N" are the buttons and sheets (see app/screenshot.h)
+#             "challenge" opens the match screen and "m:accept", "m:type:TEXT", "m:submit", "m:choose:N",
+#             ... drive it (app/match_script.h)
 # The app binary is $TESSARINE_APP, else the newest build/*/app/tessarine.
 set -euo pipefail
 here="$(cd "$(dirname "$0")/.." && pwd)"

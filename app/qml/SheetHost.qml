@@ -19,6 +19,36 @@ StackView {
         // The keyboard goes back to the screen underneath, or typing would stop for good.
         if (sheets.currentItem) sheets.currentItem.forceActiveFocus()
     }
+    // The challenge of the game type on the main screen; the options screen's "Play Challenge".
+    function openChallenge() {
+        sheets.host.match.open("")
+        sheets.openSheet(matchSheet, {})
+    }
+    function openChallengeStatistics() {
+        sheets.host.match.openStatistics("")
+        sheets.openSheet(statisticsSheet, {})
+    }
+
+    Component {
+        id: matchSheet
+        EighthView {
+            host: sheets.host
+            onDone: sheets.closeSheet()
+            onOpenStatistics: sheets.openChallengeStatistics()
+        }
+    }
+    Component {
+        id: statisticsSheet
+        NinthView {
+            host: sheets.host
+            onDone: sheets.closeSheet()
+        }
+    }
+    // Scripted runs ask for the challenge screens through the model.
+    function showRequested(screen: string) {
+        if (screen === "challenge") sheets.openChallenge()
+        else if (screen === "statistics") sheets.openChallengeStatistics()
+    }
 
     initialItem: ContentView {
         host: sheets.host
@@ -34,12 +64,14 @@ StackView {
         sheets.host.statistics.fifthOpened.connect(sheets.showFifth)
         sheets.host.statistics.sixthOpened.connect(sheets.showSixth)
         sheets.host.shareSheet.presented.connect(sheets.showShareSheet)
+        sheets.host.match.screenRequested.connect(sheets.showRequested)
     }
     Component.onDestruction: {
         sheets.host.statistics.secondOpened.disconnect(sheets.showSecond)
         sheets.host.statistics.fifthOpened.disconnect(sheets.showFifth)
         sheets.host.statistics.sixthOpened.disconnect(sheets.showSixth)
         sheets.host.shareSheet.presented.disconnect(sheets.showShareSheet)
+        sheets.host.match.screenRequested.disconnect(sheets.showRequested)
     }
 
     Component {

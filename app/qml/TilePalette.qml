@@ -8,9 +8,10 @@ QtObject {
     readonly property var fills: ({
         white: "#ffffff", gray: "#636366", green: "#34c759", blue: "#0062cc", yellow: "#ffcc00",
         orange: "#ff9500", red: "#ff3b30", cyan: "#32ade6", purple: "#8944ab", black: "#000000",
+        pink: "#ff2d55",
         currentMode: "#000000"
     })
-    readonly property var darkInk: ["white", "yellow", "cyan", "green", "orange", "red"]
+    readonly property var darkInk: ["white", "yellow", "cyan", "green", "orange", "red", "pink"]
 
     function fill(name) { return fills[name] !== undefined ? fills[name] : fills.white }
     function ink(name) { return darkInk.indexOf(name) >= 0 ? "#000000" : "#ffffff" }

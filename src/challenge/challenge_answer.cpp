@@ -24,16 +24,16 @@ std::string loadChallengeAnswer(const Lists& lists, std::string_view gameType, i
   return std::string(trimView(lines[line]));
 }
 
-UsedAnswers::UsedAnswers() : slots(kChallengeRadix, -1) {}
+UsedAnswers::UsedAnswers() : table(kChallengeRadix, -1) {}
 
 void UsedAnswers::mark(int index) {
   if (index < 0 || index >= kChallengeRadix) return;
   count += 1;
-  slots[static_cast<std::size_t>(index)] = count;
+  table[static_cast<std::size_t>(index)] = count;
 }
 
 int stepPastUsedAnswers(const UsedAnswers& used, int index) {
-  const auto slot = [&](int i) { return used.slots[static_cast<std::size_t>(i)]; };
+  const auto slot = [&](int i) { return used.table[static_cast<std::size_t>(i)]; };
   const int first = slot(index);
   if (first < 1 || used.count - first > 2999) return index;
   // The stop below is one record later than the keep above; both thresholds have always been so.

@@ -19,7 +19,7 @@ std::string loadChallengeAnswer(const Lists& lists, std::string_view gameType, i
 // Slot per answer index: the position, among this type's records, of the latest record that used
 // it, or -1. `count` is the number of those records.
 struct UsedAnswers {
-  std::vector<int> slots;
+  std::vector<int> table;  // not "slots": a Qt front end includes this
   int count = 0;
   UsedAnswers();
   void mark(int index);

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "challenge/challenge_records.h"
@@ -41,6 +42,14 @@ class Match {
   void clearRow();
   void touchCell(int column);
   void submitRow();
+
+  // Whole entries at once: six key digits, or a word from the row's first cell (false, and
+  // nothing typed, when it does not fit). Submit stays with the player.
+  bool typeKey(const std::string& digits);
+  bool typeWord(const std::string& word);
+  bool canTypeReceivedGuess() const;
+  // Fills the key or the received guess from a pasted text; the message to show when it can't.
+  std::string paste(std::string_view text);
 
   // What the opponent did, while waiting; and the own turn's walk.
   void chooseGuessReceived();

@@ -107,8 +107,9 @@ std::optional<std::string> Match::saveMatch(const std::string& typedName) {
   return std::nullopt;
 }
 
+// Even an initiator who leaves before the first guess has drawn an answer; it counts as used.
 void Match::leave() {
-  if (!m_.challengeStarted || m_.gameOver) return;
+  if (m_.gameOver) return;
   records_.leaveUnfinished(m_);
 }
 

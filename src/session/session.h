@@ -34,6 +34,9 @@ class Session {
   const ContentView& view() const { return view_; }
   const Lists& lists() const { return lists_; }
   const Clock& clock() const { return clock_; }
+  // A match runs beside the game on the session's challenge store and random source.
+  DataManager& challengeStore() { return stores_.challengeDM; }
+  RandomSource& random() { return random_; }
 
   // Start, options and phases.
   void launch();

@@ -14,8 +14,8 @@ MARKERS = ("guess is ", "Supongo que es ")
 
 
 class Device:
-    def __init__(self, cli, folder, seed, spanish=False):
-        self.cli, self.folder, self.seed, self.spanish = cli, folder, seed, spanish
+    def __init__(self, cli, folder, seed, spanish=False, paste=False):
+        self.cli, self.folder, self.seed, self.spanish, self.paste = cli, folder, seed, spanish, paste
         self.proc = None
         self.start()
 
@@ -71,13 +71,25 @@ def guess_in(text):
     return None
 
 
+def paste(receiver, text):
+    """The whole text pasted in, as the paste button reads it; the player still submits."""
+    receiver.run("paste " + text.replace("\n", "\\n"))
+    receiver.run("submit")
+
+
 def deliver(sender, receiver):
     """The receiver reads the sender's share text and tells its own device what came back."""
     text = sender.text("share")
     if receiver.state("activeRow") == "-1":
-        receiver.run("key " + key_digits(text))
+        if receiver.paste:
+            paste(receiver, text)  # the key
+        else:
+            receiver.run("key " + key_digits(text))
         assert receiver.state("invalidKeyEntry") == "false"
-        receiver.run("guess " + guess_in(text))
+        if receiver.paste:
+            paste(receiver, text)  # then the first guess, from the same text
+        else:
+            receiver.run("guess " + guess_in(text))
         return
     signals = {
         ("Found answer.", "Respuesta encontrada."): "found",
@@ -110,7 +122,10 @@ def deliver(sender, receiver):
     word = guess_in(text)
     assert word, text
     receiver.run("choose received")
-    receiver.run("guess " + word)
+    if receiver.paste:
+        paste(receiver, text)
+    else:
+        receiver.run("guess " + word)
 
 
 def result_of(device):
@@ -129,11 +144,11 @@ def agree(a, b, expected_a):
 
 
 class Match:
-    def __init__(self, cli, work, gtype, seed=7, spanish=False, resources=None):
+    def __init__(self, cli, work, gtype, seed=7, spanish=False, paste=False):
         shutil.rmtree(work, ignore_errors=True)
         self.cli = cli
-        self.a = Device(cli, os.path.join(work, "a"), seed, spanish)
-        self.b = Device(cli, os.path.join(work, "b"), seed + 1, spanish)
+        self.a = Device(cli, os.path.join(work, "a"), seed, spanish, paste)
+        self.b = Device(cli, os.path.join(work, "b"), seed + 1, spanish, paste)
         self.a.run("open " + gtype)
         self.type = gtype
         self.answer = self.a.state("challengeAnswerWord")
@@ -298,9 +313,10 @@ def main():
     parser.add_argument("--seed", type=int, default=7)
     parser.add_argument("--spanish", action="store_true")
     parser.add_argument("--first", help="the opening guess")
+    parser.add_argument("--paste", action="store_true", help="receive keys and guesses by pasting the texts")
     parser.add_argument("scenario", choices=sorted(SCENARIOS))
     args = parser.parse_args()
-    m = Match(args.cli, args.work, args.type, args.seed, args.spanish)
+    m = Match(args.cli, args.work, args.type, args.seed, args.spanish, args.paste)
     if args.first:
         m.first_guess = args.first
     try:

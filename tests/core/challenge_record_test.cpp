@@ -95,7 +95,7 @@ TEST(ChallengeRecords, ScanReopensTheStore) {
   EXPECT_EQ(scan.numberOfDraws, 1);
   EXPECT_EQ(scan.savedChallengesName, std::vector<std::string>{"'; DROP TABLE x;--"});
   EXPECT_EQ(scan.used.count, 5);  // 1, 2, 4, the saved 42 and 5; type C and the garbage are not this type's
-  EXPECT_EQ(scan.used.slots[4], 3);
+  EXPECT_EQ(scan.used.table[4], 3);
   EXPECT_EQ(challengeStatisticsText(scan, "X", true),
             "5SL STATISTICS\n\nChallenges Played:  3\nChallenges Won:  1\nChallenges Lost:  1\nChallenges Draw:  1");
   // Deleting a saved match keeps its answer used; deleting the last score keeps the counts until a rescan.

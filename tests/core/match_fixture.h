@@ -39,16 +39,8 @@ struct Device {
     std::filesystem::remove_all(dir);
   }
   const MatchState& s() const { return match->state(); }
-  void type(const std::string& word) {
-    const auto symbols = splitSymbols(word);
-    for (int column = 0; column < static_cast<int>(symbols.size()); ++column) {
-      if (symbols[static_cast<std::size_t>(column)] == "=" && column == s().board.answer.equalsColumn) continue;
-      match->touchCell(column);
-      match->enterSymbol(symbols[static_cast<std::size_t>(column)]);
-    }
-  }
   void guess(const std::string& word) {
-    type(word);
+    match->typeWord(word);
     match->submitRow();
   }
 

@@ -28,6 +28,9 @@ TestCase {
             { tag: "ThankYouCover", file: "ThankYouCover.qml", props: { alerts: host.alerts } },
             { tag: "HintsAlert", file: "HintsAlert.qml", props: { alerts: host.alerts } },
             { tag: "ChristmasAlert", file: "ChristmasAlert.qml", props: { alerts: host.alerts } },
+            { tag: "EighthView", file: "EighthView.qml", props: { host: host } },
+            { tag: "NinthView", file: "NinthView.qml", props: { host: host } },
+            { tag: "MatchSaveDialog", file: "MatchSaveDialog.qml", props: { match: host.match } },
         ]
     }
 
@@ -70,7 +73,9 @@ TestCase {
                        "arrow.down.app", "calendar", "chevron.right", "sunrise", "figure.wave",
                        "star.fill", "exclamationmark.questionmark", "questionmark", "exclamationmark.2",
                        "exclamationmark.triangle.fill", "multiply", "questionmark.circle",
-                       "graduationcap.fill", "parkingsign.circle"]
+                       "graduationcap.fill", "parkingsign.circle", "checkmark.square.fill", "square",
+                       "circle.circle", "figure.walk.diamond", "arrow.uturn.backward.square", "chevron.left",
+                       "doc.on.clipboard", "chart.bar", "square.and.arrow.down"]
         for (const name of names)
             verify(Icons.glyph(name).length === 1, name)
         compare(Icons.glyph("graduationcap.blank"), "")

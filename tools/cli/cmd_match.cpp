@@ -74,6 +74,8 @@ class MatchRunner {
       match_.cancelIntentionalWalk();
     } else if (verb == "undo") {
       match_.undoChoice();
+    } else if (verb == "paste") {
+      paste(argument);
     } else {
       executeRecords(verb, argument);
     }
@@ -138,10 +140,7 @@ class MatchRunner {
   void key(const std::string& digits) {
     if (digits.size() != 6 || digits.find_first_not_of("0123456789") != std::string::npos)
       throw CommandError{"usage: key DIGITS (six digits)"};
-    if (match_.state().activeRow() != -1) throw CommandError{"not at the key"};
-    match_.clearKey();
-    for (const char digit : digits)
-      match_.enterKeyDigit(digit - '0');
+    if (!match_.typeKey(digits)) throw CommandError{"not at the key"};
     match_.submitRow();
   }
 
@@ -157,6 +156,20 @@ class MatchRunner {
     }
   }
 
+  // A pasted text, with "\\n" for its line ends: fills the key or the received guess.
+  void paste(const std::string& escaped) {
+    std::string text;
+    for (std::size_t i = 0; i < escaped.size(); ++i) {
+      if (escaped[i] == '\\' && i + 1 < escaped.size() && escaped[i + 1] == 'n') {
+        text += '\n';
+        ++i;
+      } else {
+        text += escaped[i];
+      }
+    }
+    if (const std::string message = match_.paste(text); !message.empty()) throw CommandError{message};
+  }
+
   void submit() {
     if (match_.state().disableSubmit) throw CommandError{"submit is off"};
     match_.submitRow();
@@ -166,15 +179,8 @@ class MatchRunner {
   void guess(const std::string& word) {
     const MatchState& m = match_.state();
     if (m.activeRow() < 0 || !m.showKeypad || m.waitingForGuess) throw CommandError{"no row to type into"};
-    const auto symbols = splitSymbols(word);
-    if (static_cast<int>(symbols.size()) != m.board.gameLetters)
+    if (!match_.typeWord(word))
       throw CommandError{"a guess has " + std::to_string(m.board.gameLetters) + " symbols"};
-    for (int column = 0; column < m.board.gameLetters; ++column) {
-      const std::string& symbol = symbols[static_cast<std::size_t>(column)];
-      if (isEquationType(m.gameType) && column == m.board.answer.equalsColumn && symbol == "=") continue;
-      match_.touchCell(column);
-      match_.enterSymbol(symbol);
-    }
     submit();
   }
 
