@@ -2,19 +2,11 @@
 
 #include <algorithm>
 
-#include "catalogue/catalogue.h"
-
 using tessarine::ContentView;
-using tessarine::GameKind;
 
 namespace {
 
 constexpr int kAlphaKeysPerRow = 7;
-constexpr double kSmallScreenHeight = 800;
-
-bool isOneOf(const std::string& value, std::initializer_list<const char*> choices) {
-  return std::any_of(choices.begin(), choices.end(), [&](const char* c) { return value == c; });
-}
 
 std::vector<int> range(int from, int to) {
   std::vector<int> indices;
@@ -49,28 +41,4 @@ std::vector<std::vector<int>> keyRows(const ContentView& view) {
     rows.emplace_back(order.begin() + static_cast<long>(i), order.begin() + static_cast<long>(end));
   }
   return rows;
-}
-
-BoardMetrics boardMetrics(const std::string& gameType, bool useQWERTY, double width, double height) {
-  const bool small = height < kSmallScreenHeight;
-  const auto* info = tessarine::findGameType(gameType);
-  double key = useQWERTY ? 0.08 : 0.1;
-  double cell = 0.108;
-  if (info == nullptr) return {cell * width, key * width};
-  const bool words = info->kind == GameKind::englishWords || info->kind == GameKind::spanishWords ||
-                     info->kind == GameKind::geniusWords;
-  if (words && info->rows == 7) {
-    cell = useQWERTY ? (small ? 0.094 : 0.108) : (small ? 0.08 : 0.09);
-  } else if (words && info->tiles == 7) {
-    cell = 0.094;
-  } else if (words && info->tiles == 8) {
-    cell = 0.081;
-  } else if (isOneOf(gameType, {"G", "H"})) {
-    key = small ? 0.081 : 0.094;
-    cell = 0.094;
-  } else if (!words) {
-    key = 0.111;
-    cell = 0.081;
-  }
-  return {cell * width, key * width};
 }

@@ -5,6 +5,8 @@
 #include "board_presentation.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/fatal_error.h"
+#include "screens/board_sizes.h"
+#include "screens/colour_marks.h"
 #include "core_text.h"
 #include "session/session_texts.h"
 #include "session_host.h"
@@ -23,8 +25,9 @@ bool isEquation(const ContentView& view) {
   return view.typeOfGame == "E";
 }
 
-TileItem tileItem(const std::string& symbol, tessarine::TileColor color, bool equation) {
+TileItem tileItem(const std::string& symbol, tessarine::TileColor color, bool equation, bool colourBlind) {
   TileItem item;
+  if (colourBlind) item.pattern = fromCore(tessarine::colourBlindMark(color));
   // The record's empty cell is three blanks; the screen draws nothing for it.
   item.symbol = symbol == tessarine::kEmptyCell ? QString() : fromCore(symbol);
   item.colorName = colorName(color);
@@ -63,7 +66,7 @@ void MainScreenModel::rebuildBoard() {
   std::vector<TileItem> items;
   items.reserve(static_cast<std::size_t>(std::max(cells, 0)));
   for (int i = 0; i < cells; ++i) {
-    TileItem item = tileItem(view.cellLetter[i], view.cellBackground[i], isEquation(view));
+    TileItem item = tileItem(view.cellLetter[i], view.cellBackground[i], isEquation(view), view.presentation.colourBlind);
     item.borderWidth = view.cellBorderWidth[i];
     item.gridRow = i / columns;
     item.gridColumn = i % columns;
@@ -78,7 +81,8 @@ void MainScreenModel::rebuildKeypad() {
   const int keys = std::min(view.keypadNumber, static_cast<int>(view.keypadLetters.size()));
   std::vector<TileItem> items;
   for (int i = 0; i < keys; ++i)
-    items.push_back(tileItem(view.keypadLetters[i], view.keypadKeyColor[i], isEquation(view)));
+    items.push_back(tileItem(view.keypadLetters[i], view.keypadKeyColor[i], isEquation(view),
+                             view.presentation.colourBlind));
   // The family's layout names more keys than a keypad that is not set up yet has.
   std::vector<std::vector<int>> rows;
   for (const auto& row : keyRows(view)) {
@@ -161,12 +165,12 @@ void MainScreenModel::resizeViewport(qreal width, qreal height) {
 
 qreal MainScreenModel::cellWidth() const {
   const ContentView& view = host_.view();
-  return boardMetrics(view.gameType, view.useQWERTY, viewport_.width(), viewport_.height()).cellWidth;
+  return tessarine::boardMetrics(view.gameType, view.useQWERTY, viewport_.width(), viewport_.height()).cellWidth;
 }
 
 qreal MainScreenModel::keypadWidth() const {
   const ContentView& view = host_.view();
-  return boardMetrics(view.gameType, view.useQWERTY, viewport_.width(), viewport_.height()).keypadWidth;
+  return tessarine::boardMetrics(view.gameType, view.useQWERTY, viewport_.width(), viewport_.height()).keypadWidth;
 }
 
 QString MainScreenModel::scoreLine() const {

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QImage>
 #include <QKeyEvent>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QTimer>
 #include <cstdio>
@@ -40,8 +41,21 @@ void pressKeys(QQuickWindow& window, const QString& keys) {
     press(symbol.toUpper().unicode(), QString(symbol));
 }
 
+// "options", "help", "rules" and "back" open and close the sheets as their buttons do.
+bool openSheet(QQuickWindow& window, const QString& step) {
+  static const QHash<QString, const char*> sheets = {{QStringLiteral("options"), "openOptions"},
+                                                     {QStringLiteral("help"), "openHelp"},
+                                                     {QStringLiteral("rules"), "openRules"},
+                                                     {QStringLiteral("back"), "goBack"}};
+  const auto function = sheets.constFind(step.toLower());
+  if (function == sheets.constEnd()) return false;
+  QObject* host = window.findChild<QObject*>(QStringLiteral("sheets"));
+  return host != nullptr && QMetaObject::invokeMethod(host, function.value());
+}
+
 void replay(QQuickWindow& window, SessionHost& host, const QString& script) {
   for (const QString& step : script.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+    if (openSheet(window, step)) continue;
     if (step.startsWith(QStringLiteral("keys:"))) {
       pressKeys(window, step.mid(5));
     } else if (!applyScriptStep(host, step)) {
@@ -66,6 +80,12 @@ bool applyScriptStep(SessionHost& host, const QString& step) {
       {QStringLiteral("dates"), [](SessionHost& b) { b.dateBar()->openDateList(); }},
       {QStringLiteral("inactive"), [](SessionHost& b) { b.changePhase(tessarine::ScenePhase::inactive); }},
       {QStringLiteral("active"), [](SessionHost& b) { b.changePhase(tessarine::ScenePhase::active); }},
+      {QStringLiteral("colourblind"),
+       [](SessionHost& b) {
+         b.options()->open();
+         b.options()->setColourBlind(!b.options()->colourBlind());
+         b.options()->close();
+       }},
   };
   const QString lower = step.toLower();
   if (const auto button = buttons.constFind(lower); button != buttons.constEnd()) {
@@ -100,8 +120,8 @@ void runScriptedSession(QQuickWindow& window, SessionHost& host) {
       }
     }
     replay(window, host, qEnvironmentVariable("TESSARINE_SCRIPT"));
-    // Let the bindings settle and a frame render before the grab.
-    QTimer::singleShot(200, &window, [&window, shot] {
+    // Let the bindings settle, a sheet slide in and a frame render before the grab.
+    QTimer::singleShot(700, &window, [&window, shot] {
       const QImage image = window.grabWindow();
       const bool saved = image.save(shot);
       std::fprintf(stderr, "%s %s\n", saved ? "Saved" : "Could not save", qPrintable(shot));

@@ -9,7 +9,9 @@ class SessionHost;
 // TESSARINE_SCRIPT   space-separated steps replayed after the first frame: letters, digits and
 //                    operators are key presses; "enter", "backspace", "green", "hint", "confirm",
 //                    "today", "latest", "dates" (open the date list), "pick:N" (confirm its line N),
-//                    "type:T" (choose game type T), "inactive", "active" (scene phases); "keys:WORD",
+//                    "type:T" (choose game type T), "inactive", "active" (scene phases),
+//                    "colourblind" (flip the colour-blind marks), "options", "help", "rules", "back"
+//                    (open the sheets and close the top one); "keys:WORD",
 //                    "keys:enter", "keys:backspace" are real key events sent through the window.
 // TESSARINE_SCREENSHOT  a PNG path: the window is grabbed after the script and the app quits.
 // TESSARINE_FIRST_FRAME  when set, prints the first frame's time and resident memory, then quits.

@@ -7,10 +7,16 @@
 using tessarine::Session;
 
 SessionHost::SessionHost(QObject* parent)
-    : QObject(parent), mainScreen_(*this), dateBar_(*this), alerts_(*this) {
+    : QObject(parent),
+      mainScreen_(*this),
+      dateBar_(*this),
+      alerts_(*this),
+      options_(*this),
+      help_(options_, this) {
   connect(this, &SessionHost::updated, &mainScreen_, &MainScreenModel::refresh);
   connect(this, &SessionHost::updated, &dateBar_, &DateBarModel::changed);
   connect(this, &SessionHost::updated, &alerts_, &AlertsModel::changed);
+  connect(this, &SessionHost::updated, &options_, &OptionsModel::changed);
 }
 
 void SessionHost::attach(Session* session) {

@@ -7,7 +7,9 @@
 
 #include "alerts_model.h"
 #include "date_bar_model.h"
+#include "help_model.h"
 #include "main_screen_model.h"
+#include "options_model.h"
 #include "session/session.h"
 
 // The one owner of the app's view of the session. It runs every action, turns an error from the
@@ -23,6 +25,8 @@ class SessionHost : public QObject {
   Q_PROPERTY(MainScreenModel* mainScreen READ mainScreen CONSTANT)
   Q_PROPERTY(DateBarModel* dateBar READ dateBar CONSTANT)
   Q_PROPERTY(AlertsModel* alerts READ alerts CONSTANT)
+  Q_PROPERTY(OptionsModel* options READ options CONSTANT)
+  Q_PROPERTY(HelpModel* help READ help CONSTANT)
 
  public:
   explicit SessionHost(QObject* parent = nullptr);
@@ -42,6 +46,8 @@ class SessionHost : public QObject {
   MainScreenModel* mainScreen() { return &mainScreen_; }
   DateBarModel* dateBar() { return &dateBar_; }
   AlertsModel* alerts() { return &alerts_; }
+  OptionsModel* options() { return &options_; }
+  HelpModel* help() { return &help_; }
 
   // Runs an action on the session unless the host is fatal, catches what the core throws, then
   // emits `updated`.
@@ -65,4 +71,6 @@ class SessionHost : public QObject {
   MainScreenModel mainScreen_;
   DateBarModel dateBar_;
   AlertsModel alerts_;
+  OptionsModel options_;
+  HelpModel help_;
 };

@@ -28,6 +28,16 @@ const QHash<QString, char16_t>& table() {
       {QStringLiteral("parkingsign.circle"), 0xe54f},             // local_parking
       {QStringLiteral("lightbulb"), 0xe0f0},                      // lightbulb: the hints button
       {QStringLiteral("checkmark.square"), 0xe834},               // check_box: the green button
+      {QStringLiteral("chevron.left"), 0xe5cb},                   // chevron_left
+      {QStringLiteral("square.fill"), 0xe047},                    // stop: a filled square
+      {QStringLiteral("square"), 0xe835},                         // check_box_outline_blank
+      {QStringLiteral("checkmark.square.fill"), 0xe834},          // check_box
+      // The colour-blind marks on the scoring colours.
+      {QStringLiteral("checkmark"), 0xe5ca},               // check
+      {QStringLiteral("plus"), 0xe145},                    // add
+      {QStringLiteral("arrow.left.arrow.right"), 0xe8d4},  // swap_horiz
+      {QStringLiteral("minus"), 0xe15b},                   // remove
+      {QStringLiteral("circle.slash"), 0xe14b},            // block
       {QStringLiteral("graduationcap.blank"), 0},
       {QStringLiteral("parkingsign.blank"), 0},
   };

@@ -9,7 +9,8 @@
 #             fresh settings store before the start; needs the sqlite3 command
 # --script    steps replayed after the first frame: words are typed as key presses, and "enter",
 #             "backspace", "clearrow", "green", "hint", "confirm", "today", "latest", "type:T",
-#             "pick:N" are the buttons (see app/screenshot.h)
+#             "pick:N", "colourblind" are the buttons, and "options", "help", "rules",
+#             "back" open and close the sheets (see app/screenshot.h)
 # The app binary is $TESSARINE_APP, else the newest build/*/app/tessarine.
 set -euo pipefail
 here="$(cd "$(dirname "$0")/.." && pwd)"

@@ -8,7 +8,7 @@ Rectangle {
     id: screen
     required property SessionHost host
     readonly property MainScreenModel game: host.mainScreen
-    color: "white"
+    color: TilePalette.background
     focus: true
 
     signal openOptions()
@@ -119,6 +119,7 @@ Rectangle {
             anchors.horizontalCenter: parent.horizontalCenter
             text: screen.game.hintsLine
             font.pixelSize: 15
+            color: TilePalette.text
             visible: text.length > 0
             Accessible.role: Accessible.StaticText
             Accessible.name: text
@@ -127,6 +128,7 @@ Rectangle {
             width: parent.width
             text: screen.game.hintDefinitionLine
             textFormat: Text.PlainText
+            color: TilePalette.text
             wrapMode: Text.Wrap
             font.pixelSize: 14
             horizontalAlignment: Text.AlignHCenter

@@ -26,6 +26,7 @@ Column {
             text: bar.dates.shownDate
             font.pixelSize: 19
             font.bold: true
+            color: TilePalette.text
             horizontalAlignment: Text.AlignHCenter
             Accessible.role: Accessible.StaticText
             Accessible.name: text
@@ -62,6 +63,7 @@ Column {
             text: bar.dates.latestLabel + " " + bar.dates.latestValue
             font.pixelSize: 13
             wrapMode: Text.Wrap
+            color: TilePalette.text
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }
