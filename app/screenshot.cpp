@@ -9,6 +9,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -41,8 +42,19 @@ void pressKeys(QQuickWindow& window, const QString& keys) {
     press(symbol.toUpper().unicode(), QString(symbol));
 }
 
-// "options", "help", "rules" and "back" open and close the sheets as their buttons do.
+// "options", "help", "rules" and "back" open and close the sheets as their buttons do; "scroll"
+// shows the end of the sheet on top.
 bool openSheet(QQuickWindow& window, const QString& step) {
+  if (step.toLower() == QStringLiteral("scroll")) {
+    // After the sheet has slid in and laid itself out.
+    QTimer::singleShot(400, &window, [&window] {
+      for (QQuickItem* item : window.findChildren<QQuickItem*>(QStringLiteral("sheetText"))) {
+        const qreal end = item->property("contentHeight").toReal() - item->height();
+        item->setProperty("contentY", std::max<qreal>(end, 0));
+      }
+    });
+    return true;
+  }
   static const QHash<QString, const char*> sheets = {{QStringLiteral("options"), "openOptions"},
                                                      {QStringLiteral("help"), "openHelp"},
                                                      {QStringLiteral("rules"), "openRules"},

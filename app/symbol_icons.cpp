@@ -29,7 +29,7 @@ const QHash<QString, char16_t>& table() {
       {QStringLiteral("lightbulb"), 0xe0f0},                      // lightbulb: the hints button
       {QStringLiteral("checkmark.square"), 0xe834},               // check_box: the green button
       {QStringLiteral("chevron.left"), 0xe5cb},                   // chevron_left
-      {QStringLiteral("square.fill"), 0xe047},                    // stop: a filled square
+      {QStringLiteral("square.fill"), 0xe834},                    // check_box: the box that is on
       {QStringLiteral("square"), 0xe835},                         // check_box_outline_blank
       {QStringLiteral("checkmark.square.fill"), 0xe834},          // check_box
       // The colour-blind marks on the scoring colours.

@@ -22,6 +22,7 @@ Rectangle {
     }
 
     Flickable {
+        objectName: "sheetText"
         anchors.top: header.bottom
         anchors.left: parent.left
         anchors.right: parent.right

@@ -12,9 +12,12 @@ Row {
     spacing: 10
 
     readonly property real tileSize: 24
+    // Room for the longest example row, so that every text starts at the same place.
+    readonly property int longestRow: 6
 
     Column {
         id: tiles
+        width: line.longestRow * (line.tileSize + 2)
         spacing: 3
         visible: line.modelData.rows.length > 0
         Repeater {

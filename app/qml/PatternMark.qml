@@ -1,4 +1,3 @@
-import QtQuick
 import Tessarine
 
 // The colour-blind mark of a tile or key, in its top right corner; nothing when the mark is blank.

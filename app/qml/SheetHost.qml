@@ -24,8 +24,7 @@ StackView {
     }
 
     function openOptions() {
-        const options = openSheet(optionsSheet, { options: sheets.host.options })
-        options.openRules.connect(sheets.openRules)
+        openSheet(optionsSheet, { options: sheets.host.options })
     }
     function openHelp() {
         openSheet(helpSheet, { help: sheets.host.help })
@@ -36,7 +35,10 @@ StackView {
 
     Component {
         id: optionsSheet
-        SeventhView { onBack: sheets.closeSheet() }
+        SeventhView {
+            onBack: sheets.closeSheet()
+            onOpenRules: sheets.openRules()
+        }
     }
     Component {
         id: helpSheet

@@ -24,7 +24,7 @@ Rectangle {
     }
 
     Flickable {
-        objectName: "helpText"
+        objectName: "sheetText"
         anchors.top: header.bottom
         anchors.left: parent.left
         anchors.right: parent.right

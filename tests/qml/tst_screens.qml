@@ -28,6 +28,9 @@ TestCase {
             { tag: "ThankYouCover", file: "ThankYouCover.qml", props: { alerts: host.alerts } },
             { tag: "HintsAlert", file: "HintsAlert.qml", props: { alerts: host.alerts } },
             { tag: "ChristmasAlert", file: "ChristmasAlert.qml", props: { alerts: host.alerts } },
+            { tag: "SeventhView", file: "SeventhView.qml", props: { options: host.options } },
+            { tag: "ThirdView", file: "ThirdView.qml", props: { help: host.help } },
+            { tag: "FourthView", file: "FourthView.qml", props: { help: host.help } },
         ]
     }
 
@@ -70,7 +73,8 @@ TestCase {
                        "arrow.down.app", "calendar", "chevron.right", "sunrise", "figure.wave",
                        "star.fill", "exclamationmark.questionmark", "questionmark", "exclamationmark.2",
                        "exclamationmark.triangle.fill", "multiply", "questionmark.circle",
-                       "graduationcap.fill", "parkingsign.circle"]
+                       "graduationcap.fill", "parkingsign.circle", "chevron.left", "square.fill", "square",
+                       "checkmark.square.fill", "checkmark.square", "lightbulb"]
         for (const name of names)
             verify(Icons.glyph(name).length === 1, name)
         compare(Icons.glyph("graduationcap.blank"), "")
