@@ -5,9 +5,9 @@
 #include "board_presentation.h"
 #include "catalogue/catalogue.h"
 #include "catalogue/fatal_error.h"
+#include "core_text.h"
 #include "screens/board_sizes.h"
 #include "screens/colour_marks.h"
-#include "core_text.h"
 #include "session/session_texts.h"
 #include "session_host.h"
 #include "tile_texts.h"
@@ -66,7 +66,8 @@ void MainScreenModel::rebuildBoard() {
   std::vector<TileItem> items;
   items.reserve(static_cast<std::size_t>(std::max(cells, 0)));
   for (int i = 0; i < cells; ++i) {
-    TileItem item = tileItem(view.cellLetter[i], view.cellBackground[i], isEquation(view), view.presentation.colourBlind);
+    TileItem item =
+        tileItem(view.cellLetter[i], view.cellBackground[i], isEquation(view), view.presentation.colourBlind);
     item.borderWidth = view.cellBorderWidth[i];
     item.gridRow = i / columns;
     item.gridColumn = i % columns;
@@ -165,12 +166,14 @@ void MainScreenModel::resizeViewport(qreal width, qreal height) {
 
 qreal MainScreenModel::cellWidth() const {
   const ContentView& view = host_.view();
-  return tessarine::boardMetrics(view.gameType, view.useQWERTY, viewport_.width(), viewport_.height()).cellWidth;
+  return tessarine::boardMetrics(view.gameType, view.useQWERTY, viewport_.width(), viewport_.height())
+      .cellWidth;
 }
 
 qreal MainScreenModel::keypadWidth() const {
   const ContentView& view = host_.view();
-  return tessarine::boardMetrics(view.gameType, view.useQWERTY, viewport_.width(), viewport_.height()).keypadWidth;
+  return tessarine::boardMetrics(view.gameType, view.useQWERTY, viewport_.width(), viewport_.height())
+      .keypadWidth;
 }
 
 QString MainScreenModel::scoreLine() const {

@@ -37,8 +37,8 @@ QVariantList OptionsModel::groups() const {
     QVariantList items;
     for (const tessarine::GroupItem& item : group.items)
       items.append(QVariantMap{{"label", fromCore(item.label)}, {"selected", item.selected}});
-    groups.append(QVariantMap{
-        {"label", fromCore(group.label)}, {"selected", group.selected}, {"items", items}});
+    groups.append(
+        QVariantMap{{"label", fromCore(group.label)}, {"selected", group.selected}, {"items", items}});
   }
   return groups;
 }

@@ -24,8 +24,10 @@ Rectangle {
         spacing: 8
 
         Row {
+            width: parent.width
             spacing: 8
             Icon {
+                id: groupMark
                 anchors.verticalCenter: parent.verticalCenter
                 symbol: box.modelData.selected ? "checkmark.square.fill" : "square"
                 size: 22
@@ -34,8 +36,10 @@ Rectangle {
             Text {
                 objectName: "group_" + box.modelData.label
                 anchors.verticalCenter: parent.verticalCenter
+                width: parent.width - groupMark.width - parent.spacing
                 text: box.modelData.label
                 textFormat: Text.PlainText
+                wrapMode: Text.Wrap
                 font.pixelSize: 17
                 font.bold: true
                 color: TilePalette.currentMode

@@ -25,6 +25,7 @@ Rectangle {
 
     Text {
         anchors.centerIn: parent
+        anchors.verticalCenterOffset: key.pattern !== "" ? key.keyWidth * 0.12 : 0
         text: key.glyph
         font.pixelSize: key.keyWidth * 0.55
         font.bold: true

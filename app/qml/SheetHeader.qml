@@ -24,7 +24,9 @@ Item {
         text: header.title
         textFormat: Text.PlainText
         horizontalAlignment: Text.AlignHCenter
-        elide: Text.ElideRight
+        // A long Spanish title shrinks to fit rather than lose its end.
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 14
         font.pixelSize: 20
         font.bold: true
         color: TilePalette.currentMode

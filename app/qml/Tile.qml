@@ -21,18 +21,23 @@ Rectangle {
     border.width: borderWidth
     border.color: borderWidth > 1 ? TilePalette.text : "#8e8e93"
 
+    // With a colour-blind mark in the corner, the symbol makes room for it.
+    readonly property bool marked: pattern !== ""
+
     Text {
         anchors.centerIn: parent
+        anchors.horizontalCenterOffset: tile.marked ? -tile.width * 0.1 : 0
+        anchors.verticalCenterOffset: tile.marked ? tile.width * 0.08 : 0
         text: tile.glyph
         textFormat: Text.PlainText
-        font.pixelSize: tile.width * 0.6
+        font.pixelSize: tile.width * (tile.marked ? 0.48 : 0.6)
         font.bold: true
         color: TilePalette.ink(tile.colorName)
     }
     PatternMark {
         symbol: tile.pattern
         colorName: tile.colorName
-        size: tile.width * 0.38
+        size: tile.width * 0.34
     }
     MouseArea {
         anchors.fill: parent

@@ -57,7 +57,8 @@ SheetSection examples(const Bilingual& heading, const std::array<Example, N>& ta
 }  // namespace
 
 SheetSection colourHintExamples(const GameTypeInfo* info, bool english) {
-  return examples({"Color Hint Examples", "Ejemplos de sugerencias de color"}, kColourHints, colourHintTiles, info, english);
+  return examples({"Color Hint Examples", "Ejemplos de sugerencias de color"}, kColourHints, colourHintTiles,
+                  info, english);
 }
 
 SheetSection smartModeErrorExamples(const GameTypeInfo* info, bool english) {

@@ -31,7 +31,7 @@ struct SheetCase {
   const char* gameType;
   bool english;
 };
-constexpr SheetCase kSheets[] = {{"C", true}, {"C", false}, {"X", false}, {"K", true},
+constexpr SheetCase kSheets[] = {{"C", true},  {"C", false}, {"X", false}, {"K", true},
                                  {"H", false}, {"M", true},  {"R", false}};
 
 // Each example row shows what its text says: the coloured tiles hold the symbol the text names, a

@@ -29,7 +29,8 @@ struct TestGame {
 
   // A new session over the same stores, as the next launch of the app would be.
   void start() {
-    auto next = std::make_unique<tessarine::Session>(dataDirectory.path().toStdString(), lists, clock, random);
+    auto next =
+        std::make_unique<tessarine::Session>(dataDirectory.path().toStdString(), lists, clock, random);
     host.attach(next.get());
     session = std::move(next);
     host.launch();
