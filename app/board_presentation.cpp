@@ -2,19 +2,13 @@
 
 #include <algorithm>
 
-#include "catalogue/catalogue.h"
+#include "screens/board_sizes.h"
 
 using tessarine::ContentView;
-using tessarine::GameKind;
 
 namespace {
 
 constexpr int kAlphaKeysPerRow = 7;
-constexpr double kSmallScreenHeight = 800;
-
-bool isOneOf(const std::string& value, std::initializer_list<const char*> choices) {
-  return std::any_of(choices.begin(), choices.end(), [&](const char* c) { return value == c; });
-}
 
 std::vector<int> range(int from, int to) {
   std::vector<int> indices;
@@ -56,30 +50,6 @@ std::vector<std::vector<int>> keyRows(const tessarine::Keypad& keypad, const std
   return rows;
 }
 
-BoardMetrics boardMetrics(const std::string& gameType, bool useQWERTY, double width, double height) {
-  const bool small = height < kSmallScreenHeight;
-  const auto* info = tessarine::findGameType(gameType);
-  double key = useQWERTY ? 0.08 : 0.1;
-  double cell = 0.108;
-  if (info == nullptr) return {cell * width, key * width};
-  const bool words = info->kind == GameKind::englishWords || info->kind == GameKind::spanishWords ||
-                     info->kind == GameKind::geniusWords;
-  if (words && info->rows == 7) {
-    cell = useQWERTY ? (small ? 0.094 : 0.108) : (small ? 0.08 : 0.09);
-  } else if (words && info->tiles == 7) {
-    cell = 0.094;
-  } else if (words && info->tiles == 8) {
-    cell = 0.081;
-  } else if (isOneOf(gameType, {"G", "H"})) {
-    key = small ? 0.081 : 0.094;
-    cell = 0.094;
-  } else if (!words) {
-    key = 0.111;
-    cell = 0.081;
-  }
-  return {cell * width, key * width};
-}
-
 double fittedLayoutWidth(const std::string& gameType, bool useQWERTY, int boardRows, int keypadRows, double width,
                          double height) {
   // What does not grow with the width: the title bar, the date bar, the reserved message line,
@@ -87,7 +57,7 @@ double fittedLayoutWidth(const std::string& gameType, bool useQWERTY, int boardR
   constexpr double kFixed = 368;
   constexpr double kTileGap = 4, kKeyGap = 6, kKeyAspect = 1.45;
   // Tiles and keys are fractions of the width, so the screen's height is a line in the width.
-  const BoardMetrics perUnit = boardMetrics(gameType, useQWERTY, 1.0, height);
+  const tessarine::BoardMetrics perUnit = tessarine::boardMetrics(gameType, useQWERTY, 1.0, height);
   const double growth = boardRows * perUnit.cellWidth + keypadRows * kKeyAspect * perUnit.keypadWidth;
   const double room = height - kFixed - boardRows * kTileGap - keypadRows * kKeyGap;
   if (growth <= 0 || room <= 0) return width;

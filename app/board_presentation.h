@@ -5,8 +5,8 @@
 
 #include "session/content_view.h"
 
-// Where the main screen puts the keys and how large it draws tiles and keys. Plain C++ over the
-// record, so nothing here needs a screen; the game's own texts and marks come from the core.
+// Where the main screen puts the keys. Plain C++ over the record, so nothing here needs a screen;
+// the sizes, texts and marks come from the core.
 
 // Key indices into `keypadLetters`, one list per keypad row on screen. The letters are laid out
 // as QWERTY or, without it, alphabetically in four rows; the array order never changes.
@@ -14,13 +14,6 @@ std::vector<std::vector<int>> keyRows(const tessarine::ContentView& view);
 // The same for any keypad, a match's too.
 std::vector<std::vector<int>> keyRows(const tessarine::Keypad& keypad, const std::string& typeOfGame,
                                       bool useQWERTY);
-
-// Tile and key widths in logical pixels for a screen of `width` x `height`.
-struct BoardMetrics {
-  double cellWidth = 0;
-  double keypadWidth = 0;
-};
-BoardMetrics boardMetrics(const std::string& gameType, bool useQWERTY, double width, double height);
 
 // The phone layout's width for a window of `width` x `height`: the window's width, unless the
 // screen (fixed bars, the board's rows, the message line and the keypad) would then be taller

@@ -7,6 +7,8 @@
 #include "catalogue/fatal_error.h"
 #include "core_text.h"
 #include "screens/refusal_message.h"
+#include "screens/board_sizes.h"
+#include "screens/colour_marks.h"
 #include "session/session_texts.h"
 #include "session_host.h"
 #include "tile_items.h"
@@ -42,12 +44,21 @@ void MainScreenModel::refresh() {
 
 void MainScreenModel::rebuildBoard() {
   const ContentView& view = host_.view();
-  board_.setItems(boardItems(view, view.gameRows));
+  std::vector<TileItem> items = boardItems(view, view.gameRows);
+  if (view.presentation.colourBlind) {
+    for (std::size_t i = 0; i < items.size(); ++i)
+      items[i].pattern = fromCore(tessarine::colourBlindMark(view.cellBackground[i]));
+  }
+  board_.setItems(std::move(items));
 }
 
 void MainScreenModel::rebuildKeypad() {
   const ContentView& view = host_.view();
   std::vector<TileItem> items = keypadItems(view, keyRows(view), view.typeOfGame == "E");
+  if (view.presentation.colourBlind) {
+    for (std::size_t i = 0; i < items.size(); ++i)
+      items[i].pattern = fromCore(tessarine::colourBlindMark(view.keypadKeyColor[i]));
+  }
   for (std::size_t i = 0; i < items.size(); ++i) {
     try {
       items[i].live = host_.ready() && host_.session()->keyLive(view.keypadLetters[i]);
@@ -131,9 +142,9 @@ bool MainScreenModel::reducedMotion() const {
   return !wanted.isEmpty() && wanted != "0";
 }
 
-BoardMetrics MainScreenModel::metrics() const {
+tessarine::BoardMetrics MainScreenModel::metrics() const {
   const ContentView& view = host_.view();
-  return boardMetrics(view.gameType, view.useQWERTY, layoutWidth(), viewport_.height());
+  return tessarine::boardMetrics(view.gameType, view.useQWERTY, layoutWidth(), viewport_.height());
 }
 
 qreal MainScreenModel::cellWidth() const {

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include "board_presentation.h"
+#include "screens/board_sizes.h"
 #include "tile_list_model.h"
 
 class SessionHost;
@@ -113,7 +114,7 @@ class MainScreenModel : public QObject {
  private:
   void rebuildBoard();
   void rebuildKeypad();
-  BoardMetrics metrics() const;
+  tessarine::BoardMetrics metrics() const;
 
   SessionHost& host_;
   TileListModel board_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "board_presentation.h"
+#include "screens/board_sizes.h"
 #include "challenge/challenge_records.h"
 #include "challenge/match_screen_texts.h"
 #include "core_text.h"
@@ -86,7 +87,7 @@ qreal MatchModel::cellWidth() const {
   const QSizeF viewport = host_.mainScreen()->viewport();
   const std::string type = match_ != nullptr ? match_->state().gameType : host_.view().gameType;
   const double width =
-      boardMetrics(type, host_.view().useQWERTY, viewport.width(), viewport.height()).cellWidth;
+      tessarine::boardMetrics(type, host_.view().useQWERTY, viewport.width(), viewport.height()).cellWidth;
   // Eight rows and the keypad share the screen: the rows take at most two fifths of it.
   return std::min(width, viewport.height() * 0.4 / tessarine::kMatchRows - 4);
 }
@@ -94,7 +95,7 @@ qreal MatchModel::cellWidth() const {
 qreal MatchModel::keyWidth() const {
   const QSizeF viewport = host_.mainScreen()->viewport();
   const std::string type = match_ != nullptr ? match_->state().gameType : host_.view().gameType;
-  return boardMetrics(type, host_.view().useQWERTY, viewport.width(), viewport.height()).keypadWidth;
+  return tessarine::boardMetrics(type, host_.view().useQWERTY, viewport.width(), viewport.height()).keypadWidth;
 }
 
 QStringList MatchModel::choiceLabels() const {

@@ -6,8 +6,10 @@
 #include <QHash>
 #include <QImage>
 #include <QKeyEvent>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -42,8 +44,32 @@ void pressKeys(QQuickWindow& window, const QString& keys) {
     press(symbol.toUpper().unicode(), QString(symbol));
 }
 
+// "options", "help", "rules" and "back" open and close the sheets as their buttons do; "scroll"
+// shows the end of the sheet on top.
+bool openSheet(QQuickWindow& window, const QString& step) {
+  if (step.toLower() == QStringLiteral("scroll")) {
+    // After the sheet has slid in and laid itself out.
+    QTimer::singleShot(400, &window, [&window] {
+      for (QQuickItem* item : window.findChildren<QQuickItem*>(QStringLiteral("sheetText"))) {
+        const qreal end = item->property("contentHeight").toReal() - item->height();
+        item->setProperty("contentY", std::max<qreal>(end, 0));
+      }
+    });
+    return true;
+  }
+  static const QHash<QString, const char*> sheets = {{QStringLiteral("options"), "openOptions"},
+                                                     {QStringLiteral("help"), "openHelp"},
+                                                     {QStringLiteral("rules"), "openRules"},
+                                                     {QStringLiteral("back"), "goBack"}};
+  const auto function = sheets.constFind(step.toLower());
+  if (function == sheets.constEnd()) return false;
+  QObject* host = window.findChild<QObject*>(QStringLiteral("sheets"));
+  return host != nullptr && QMetaObject::invokeMethod(host, function.value());
+}
+
 void replay(QQuickWindow& window, SessionHost& host, const QString& script) {
   for (const QString& step : script.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+    if (openSheet(window, step)) continue;
     if (step.startsWith(QStringLiteral("keys:"))) {
       pressKeys(window, step.mid(5));
     } else if (!applyScriptStep(host, step)) {
@@ -75,6 +101,12 @@ bool applyScriptStep(SessionHost& host, const QString& step) {
       {QStringLiteral("sharestats"), [](SessionHost& b) { b.statistics()->shareStatistics(); }},
       {QStringLiteral("sharelist"), [](SessionHost& b) { b.statistics()->shareList(); }},
       {QStringLiteral("copy"), [](SessionHost& b) { b.shareSheet()->copy(); }},
+      {QStringLiteral("colourblind"),
+       [](SessionHost& b) {
+         b.options()->open();
+         b.options()->setColourBlind(!b.options()->colourBlind());
+         b.options()->close();
+       }},
   };
   if (step.startsWith(QStringLiteral("m:")) || step.startsWith(QStringLiteral("challenge")))
     return applyMatchStep(host, step);

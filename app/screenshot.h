@@ -9,7 +9,9 @@ class SessionHost;
 // TESSARINE_SCRIPT   space-separated steps replayed after the first frame: letters, digits and
 //                    operators are key presses; "enter", "backspace", "green", "hint", "confirm",
 //                    "today", "latest", "dates" (open the date list), "pick:N" (confirm its line N),
-//                    "type:T" (choose game type T), "inactive", "active" (scene phases); "stats",
+//                    "type:T" (choose game type T), "inactive", "active" (scene phases),
+//                    "colourblind" (flip the colour-blind marks), "options", "help", "rules", "back"
+//                    (open the sheets and close the top one); "stats",
 //                    "distribution", "list" (the statistics sheets), "sort:N" (the sort menu's
 //                    button N), "share", "sharestats", "sharelist" (the three share texts), "copy",
 //                    "cell:N" (touch board cell N); "keys:WORD",

@@ -8,12 +8,20 @@
 using tessarine::Session;
 
 SessionHost::SessionHost(QObject* parent)
-    : QObject(parent), mainScreen_(*this), dateBar_(*this), alerts_(*this), statistics_(*this), match_(*this) {
+    : QObject(parent),
+      mainScreen_(*this),
+      dateBar_(*this),
+      alerts_(*this),
+      statistics_(*this),
+      match_(*this),
+      options_(*this),
+      help_(options_, this) {
   connect(this, &SessionHost::updated, &mainScreen_, &MainScreenModel::refresh);
   connect(this, &SessionHost::updated, &dateBar_, &DateBarModel::changed);
   connect(this, &SessionHost::updated, &alerts_, &AlertsModel::changed);
   connect(this, &SessionHost::updated, &statistics_, &StatisticsModel::sessionUpdated);
   connect(this, &SessionHost::updated, &match_, &MatchModel::refresh);
+  connect(this, &SessionHost::updated, &options_, &OptionsModel::changed);
   connect(this, &SessionHost::updated, &shareSheet_,
           [this] { shareSheet_.setEnglish(view().EnglishTranslation); });
 }

@@ -7,8 +7,10 @@
 
 #include "alerts_model.h"
 #include "date_bar_model.h"
+#include "help_model.h"
 #include "main_screen_model.h"
 #include "match_model.h"
+#include "options_model.h"
 #include "session/session.h"
 #include "share_sink.h"
 #include "statistics_model.h"
@@ -29,6 +31,8 @@ class SessionHost : public QObject {
   Q_PROPERTY(StatisticsModel* statistics READ statistics CONSTANT)
   Q_PROPERTY(ClipboardShareSink* shareSheet READ shareSheet CONSTANT)
   Q_PROPERTY(MatchModel* match READ match CONSTANT)
+  Q_PROPERTY(OptionsModel* options READ options CONSTANT)
+  Q_PROPERTY(HelpModel* help READ help CONSTANT)
 
  public:
   explicit SessionHost(QObject* parent = nullptr);
@@ -56,6 +60,8 @@ class SessionHost : public QObject {
   void setShareSink(ShareSink* sink) { sink_ = sink != nullptr ? sink : &shareSheet_; }
   void share(const std::string& text);
   MatchModel* match() { return &match_; }
+  OptionsModel* options() { return &options_; }
+  HelpModel* help() { return &help_; }
 
   // Runs an action on the session unless the host is fatal, catches what the core throws, then
   // emits `updated`.
@@ -83,4 +89,6 @@ class SessionHost : public QObject {
   ClipboardShareSink shareSheet_;
   ShareSink* sink_ = &shareSheet_;
   MatchModel match_;
+  OptionsModel options_;
+  HelpModel help_;
 };

@@ -41,6 +41,13 @@ const QHash<QString, char16_t>& table() {
       {QStringLiteral("arrow.uturn.backward.square"), 0xe166},    // undo
       {QStringLiteral("doc.on.clipboard"), 0xe14f},               // content_paste
       {QStringLiteral("square.and.arrow.down"), 0xe161},          // save
+      {QStringLiteral("square.fill"), 0xe834},                    // check_box: the box that is on
+      // The colour-blind marks on the scoring colours.
+      {QStringLiteral("checkmark"), 0xe5ca},               // check
+      {QStringLiteral("plus"), 0xe145},                    // add
+      {QStringLiteral("arrow.left.arrow.right"), 0xe8d4},  // swap_horiz
+      {QStringLiteral("minus"), 0xe15b},                   // remove
+      {QStringLiteral("circle.slash"), 0xe14b},            // block
       {QStringLiteral("graduationcap.blank"), 0},
       {QStringLiteral("parkingsign.blank"), 0},
   };

@@ -28,6 +28,8 @@ QVariant TileListModel::data(const QModelIndex& index, int role) const {
       return item.gridColumn;
     case RowLengthRole:
       return item.rowLength;
+    case PatternRole:
+      return item.pattern;
     default:
       return {};
   }
@@ -38,7 +40,7 @@ QHash<int, QByteArray> TileListModel::roleNames() const {
           {ColorNameRole, "colorName"},     {SpokenNameRole, "spokenName"},
           {BorderWidthRole, "borderWidth"}, {LiveRole, "live"},
           {GridRowRole, "gridRow"},         {GridColumnRole, "gridColumn"},
-          {RowLengthRole, "rowLength"}};
+          {RowLengthRole, "rowLength"},     {PatternRole, "pattern"}};
 }
 
 void TileListModel::setItems(std::vector<TileItem> items) {

@@ -12,6 +12,7 @@ struct TileItem {
   QString glyph;       // as it is drawn ("×")
   QString colorName;   // the core's colour name
   QString spokenName;  // for a screen reader: "C, green"
+  QString pattern;     // symbol drawn over the colour for colour-blind players; empty for none
   qreal borderWidth = 1;
   bool live = true;  // a dead key has no action
   int gridRow = 0;
@@ -41,6 +42,7 @@ class TileListModel : public QAbstractListModel {
     GridRowRole,
     GridColumnRole,
     RowLengthRole,
+    PatternRole,
   };
   Q_ENUM(Role)
 

@@ -9,6 +9,7 @@ packages=(
   qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qtqml-workerscript
   qml6-module-qttest qml6-module-qtquick-shapes
   fonts-noto-color-emoji
+  python3-pil
 )
 missing=()
 for p in "${packages[@]}"; do

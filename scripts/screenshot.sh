@@ -14,6 +14,8 @@
 #             "sharelist", "copy", "cell:N" are the buttons and sheets (see app/screenshot.h)
 #             "challenge" opens the match screen and "m:accept", "m:type:TEXT", "m:submit", "m:choose:N",
 #             ... drive it (app/match_script.h)
+#             "pick:N", "colourblind" are the buttons, and "options", "help", "rules",
+#             "back" open and close the sheets (see app/screenshot.h)
 # The app binary is $TESSARINE_APP, else the newest build/*/app/tessarine.
 set -euo pipefail
 here="$(cd "$(dirname "$0")/.." && pwd)"

@@ -8,7 +8,7 @@ Rectangle {
     id: screen
     required property SessionHost host
     readonly property MainScreenModel game: host.mainScreen
-    color: "white"
+    color: TilePalette.background
     focus: true
 
     signal openOptions()
@@ -170,6 +170,7 @@ Rectangle {
                 height: 20
                 text: screen.game.hintsLine
                 font.pixelSize: 15
+                color: TilePalette.text
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
                 Accessible.ignored: text.length === 0
@@ -179,6 +180,7 @@ Rectangle {
                 height: 36
                 text: screen.game.hintDefinitionLine
                 textFormat: Text.PlainText
+                color: TilePalette.text
                 wrapMode: Text.Wrap
                 maximumLineCount: 2
                 elide: Text.ElideRight

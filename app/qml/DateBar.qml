@@ -30,6 +30,7 @@ Column {
             minimumPixelSize: 12
             font.pixelSize: 19
             font.bold: true
+            color: TilePalette.text
             horizontalAlignment: Text.AlignHCenter
             Accessible.role: Accessible.StaticText
             Accessible.name: text
@@ -72,6 +73,7 @@ Column {
             text: bar.dates.latestLabel + " " + bar.dates.latestValue
             font.pixelSize: 13
             wrapMode: Text.Wrap
+            color: TilePalette.text
             Accessible.role: Accessible.StaticText
             Accessible.name: text
         }

@@ -9,6 +9,7 @@ Rectangle {
     required property string glyph
     required property string colorName
     required property string spokenName
+    required property string pattern
     required property bool live
     required property real keyWidth
     signal pressed(int index)
@@ -24,10 +25,16 @@ Rectangle {
 
     Text {
         anchors.centerIn: parent
+        anchors.verticalCenterOffset: key.pattern !== "" ? key.keyWidth * 0.12 : 0
         text: key.glyph
         font.pixelSize: key.keyWidth * 0.55
         font.bold: true
         color: TilePalette.ink(key.colorName)
+    }
+    PatternMark {
+        symbol: key.pattern
+        colorName: key.colorName
+        size: key.keyWidth * 0.4
     }
     MouseArea {
         anchors.fill: parent

@@ -10,7 +10,7 @@ Window {
     height: 844
     visible: true
     title: "Tessarine"
-    color: "white"
+    color: TilePalette.background
 
     // The board's sizes follow the screen's.
     function reportViewport() {
@@ -22,6 +22,7 @@ Window {
 
     // The fatal stop covers everything; the main screen underneath no longer takes a touch.
     SheetHost {
+        objectName: "sheets"
         anchors.fill: parent
         host: window.host
         focus: true

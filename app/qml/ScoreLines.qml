@@ -45,6 +45,7 @@ Column {
         width: parent.width
         text: lines.game.definitionLine
         textFormat: Text.PlainText
+        color: TilePalette.text
         wrapMode: Text.Wrap
         font.pixelSize: 14
         horizontalAlignment: Text.AlignHCenter

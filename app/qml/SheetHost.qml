@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 import QtQml
+import QtQuick
 import QtQuick.Controls
 import Tessarine
 
@@ -11,14 +12,48 @@ StackView {
     required property SessionHost host
 
     // Sheets come and go at once: a touch or a script step lands on the screen it opened.
-    function openSheet(sheet: Component, properties: var) {
-        sheets.push(sheet, properties, StackView.Immediate)
+    function openSheet(sheet: Component, properties: var): Item {
+        return sheets.push(sheet, properties, StackView.Immediate)
     }
     function closeSheet() {
         if (sheets.depth > 1) sheets.pop(StackView.Immediate)
         // The keyboard goes back to the screen underneath, or typing would stop for good.
         if (sheets.currentItem) sheets.currentItem.forceActiveFocus()
     }
+    // The back of whatever sheet is on top, as its own back button does.
+    function goBack() {
+        const top = sheets.currentItem as SeventhView
+        if (top) top.close()
+        else closeSheet()
+    }
+
+    function openOptions() {
+        openSheet(optionsSheet, { options: sheets.host.options })
+    }
+    function openHelp() {
+        openSheet(helpSheet, { help: sheets.host.help })
+    }
+    function openRules() {
+        openSheet(rulesSheet, { help: sheets.host.help })
+    }
+
+    Component {
+        id: optionsSheet
+        SeventhView {
+            onBack: sheets.closeSheet()
+            onOpenRules: sheets.openRules()
+            onOpenChallenge: sheets.openChallenge()
+        }
+    }
+    Component {
+        id: helpSheet
+        ThirdView { onBack: sheets.closeSheet() }
+    }
+    Component {
+        id: rulesSheet
+        FourthView { onBack: sheets.closeSheet() }
+    }
+
     // The challenge of the game type on the main screen; the options screen's "Play Challenge".
     function openChallenge() {
         sheets.host.match.open("")
@@ -35,6 +70,7 @@ StackView {
             host: sheets.host
             onDone: sheets.closeSheet()
             onOpenStatistics: sheets.openChallengeStatistics()
+            onOpenRules: sheets.openRules()
         }
     }
     Component {
@@ -53,6 +89,8 @@ StackView {
     initialItem: ContentView {
         host: sheets.host
         focus: true
+        onOpenOptions: sheets.openOptions()
+        onOpenHelp: sheets.openHelp()
     }
 
     function showSecond() { sheets.openSheet(secondView, {}) }

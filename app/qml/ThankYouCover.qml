@@ -5,7 +5,7 @@ import Tessarine
 Rectangle {
     id: cover
     required property AlertsModel alerts
-    color: "white"
+    color: TilePalette.background
     visible: cover.alerts.thankYouFlag
 
     Text {

@@ -1,8 +1,10 @@
 import QtQuick
+import Tessarine
 
 // One cell of a board: its symbol on its colour, with the thick border on the active cell.
 // With motion on, a tile that gets its score turns over (one column after another), a refused
-// tile shakes and a winning tile bounces. The model changes at once: only the drawing follows.
+// tile shakes and a winning tile bounces. The model changes at once: only the drawing follows. For colour-blind players the
+// mark of its colour stands in a corner.
 Rectangle {
     id: tile
     required property int index
@@ -10,6 +12,7 @@ Rectangle {
     required property string glyph
     required property string colorName
     required property string spokenName
+    required property string pattern
     required property real borderWidth
     required property real size
     property bool animate: false
@@ -26,7 +29,7 @@ Rectangle {
     radius: 3
     color: TilePalette.fill(shownColor)
     border.width: borderWidth
-    border.color: borderWidth > 1 ? "#000000" : "#8e8e93"
+    border.color: borderWidth > 1 ? TilePalette.text : "#8e8e93"
     transform: [
         Scale { id: face; origin.y: tile.height / 2; yScale: 1 },
         Translate { id: nudge }
@@ -66,13 +69,23 @@ Rectangle {
         NumberAnimation { target: nudge; property: "y"; to: 0; duration: 160 }
     }
 
+    // With a colour-blind mark in the corner, the symbol makes room for it.
+    readonly property bool marked: pattern !== ""
+
     Text {
         anchors.centerIn: parent
+        anchors.horizontalCenterOffset: tile.marked ? -tile.width * 0.1 : 0
+        anchors.verticalCenterOffset: tile.marked ? tile.width * 0.08 : 0
         text: tile.glyph
         textFormat: Text.PlainText
-        font.pixelSize: tile.width * 0.6
+        font.pixelSize: tile.width * (tile.marked ? 0.48 : 0.6)
         font.bold: true
         color: TilePalette.ink(tile.shownColor)
+    }
+    PatternMark {
+        symbol: tile.pattern
+        colorName: tile.shownColor
+        size: tile.width * 0.34
     }
     MouseArea {
         anchors.fill: parent

@@ -114,6 +114,14 @@ std::string_view seventhViewTitle(bool EnglishTranslation) {
   return EnglishTranslation ? "Game Types & Options" : "Tipos de juegos y opciones";
 }
 
+std::string_view challengeHeading(bool EnglishTranslation) {
+  return EnglishTranslation ? "Tessarine Challenge" : "Tessarina Desafío";
+}
+
+std::string_view colourBlindLabel(bool EnglishTranslation) {
+  return EnglishTranslation ? "Color-Blind Patterns" : "Patrones para daltónicos";
+}
+
 std::vector<OptionRow> optionRows(const SeventhView& view) {
   const bool english = view.bindings.EnglishTranslation;
   std::vector<OptionRow> rows;

@@ -66,6 +66,9 @@ std::optional<Options> closeSeventhView(SeventhView& view);
 
 // Texts of the sheet in the language of the bindings.
 std::string_view seventhViewTitle(bool EnglishTranslation);
+std::string_view challengeHeading(bool EnglishTranslation);
+// The row of the drawing choice that adds a mark to each scoring colour.
+std::string_view colourBlindLabel(bool EnglishTranslation);
 
 // One row per option, drawn "square.fill" when on and "square" when off. The challenge's row
 // opens the match and holds no option: its `field` is null.

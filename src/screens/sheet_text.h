@@ -28,10 +28,20 @@ struct FamilyTexts {
   Bilingual equations;
 };
 
+// One tile of an example row, drawn as the board draws its tiles.
+struct ExampleTile {
+  std::string symbol;
+  TileColor colour;
+  friend bool operator==(const ExampleTile&, const ExampleTile&) = default;
+};
+using ExampleRow = std::vector<ExampleTile>;
+
 struct SheetLine {
   std::string text;
   std::string_view symbol;          // system symbol name drawn beside the line; empty for none
   std::optional<TileColor> colour;  // colour of the example tile or of the symbol
+  // Rows of tiles beside an example: a guess, and for a Smart Mode error the next guess too.
+  std::vector<ExampleRow> tiles = {};
 };
 
 struct SheetSection {

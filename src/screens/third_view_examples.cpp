@@ -42,13 +42,15 @@ const std::array<Example, 6> kSmartModeErrors = {{
 }};
 // clang-format on
 
+using TilesOf = std::vector<ExampleRow> (*)(std::size_t, const GameTypeInfo*, bool);
+
 template <std::size_t N>
-SheetSection examples(const Bilingual& heading, const std::array<Example, N>& table, const GameTypeInfo* info,
-                      bool english) {
+SheetSection examples(const Bilingual& heading, const std::array<Example, N>& table, TilesOf tiles,
+                      const GameTypeInfo* info, bool english) {
   SheetSection section{std::string(pick(heading, english)), {}};
-  for (const Example& example : table) {
-    if (auto text = familyText(example.texts, info, example.fallback, english))
-      section.lines.push_back({std::move(*text), {}, example.colour});
+  for (std::size_t i = 0; i < N; ++i) {
+    if (auto text = familyText(table[i].texts, info, table[i].fallback, english))
+      section.lines.push_back({std::move(*text), {}, table[i].colour, tiles(i, info, english)});
   }
   return section;
 }
@@ -56,7 +58,8 @@ SheetSection examples(const Bilingual& heading, const std::array<Example, N>& ta
 }  // namespace
 
 SheetSection colourHintExamples(const GameTypeInfo* info, bool english) {
-  return examples({"Color Hint Examples", "Ejemplos de sugerencias de color"}, kColourHints, info, english);
+  return examples({"Color Hint Examples", "Ejemplos de sugerencias de color"}, kColourHints, colourHintTiles,
+                  info, english);
 }
 
 const FamilyTexts& refusedEntryText(bool repeated) {
@@ -69,7 +72,7 @@ const FamilyTexts& smartModeErrorText(std::size_t check) {
 
 SheetSection smartModeErrorExamples(const GameTypeInfo* info, bool english) {
   return examples({"Smart Mode Error Examples", "Modo inteligente Ejemplos de errores"}, kSmartModeErrors,
-                  info, english);
+                  smartModeTiles, info, english);
 }
 
 }  // namespace tessarine::help

@@ -23,6 +23,10 @@ inline std::optional<std::string> familyText(const FamilyTexts& texts, const Gam
   return std::string(pick(text, english));
 }
 
+// The example rows of the colour hint and Smart Mode examples, by the example's place in its table.
+std::vector<ExampleRow> colourHintTiles(std::size_t example, const GameTypeInfo* info, bool english);
+std::vector<ExampleRow> smartModeTiles(std::size_t example, const GameTypeInfo* info, bool english);
+
 SheetSection nameEntry(bool english);
 SheetSection howToPlay(const GameTypeInfo* info, bool english);
 SheetSection colourHintExamples(const GameTypeInfo* info, bool english);

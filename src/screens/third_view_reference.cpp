@@ -39,14 +39,14 @@ const std::array<Entry, 8> kOptions = {{
     {"", {}, {"Show Definitions - when a game is completed, the definition of the mystery word is displayed underneath the game score.", ""}, nullptr, ""},
 }};
 
-// The buttons whose symbol the main screen does not fix have none here.
+// The buttons that the main screen does not draw have no symbol here.
 const std::array<Entry, 11> kButtons = {{
     {"trash.square", {}, {"This button will clear all entries entered for the current guess.", "Este botón borrará todas las entradas ingresadas para la suposición actual."}, nullptr, ""},
     {"clear", {}, {"This button will clear the entry entered for the active cell.", "Este botón borrará la entrada ingresada para la celda activa."}, nullptr, ""},
-    {"", {}, {}, &kMoveCorrect, "This button will move all the correct letters/numbers/operators to your current guess."},
+    {"checkmark.square", {}, {}, &kMoveCorrect, "This button will move all the correct letters/numbers/operators to your current guess."},
     {"arrow.down.app", {}, {"This button will submit the currently entered guess.", "Este botón enviará la conjetura ingresada actualmente."}, nullptr, ""},
     {"square.and.arrow.up", {}, {"This button will take you to the share screen where you are able to share the results for your current game. Only the color hints will be displayed and not your actual entries.\nIf you do not want to share a color hint, just touch the given cell to highlight the cell. Any cell highlighted will show black for their color.", "Este botón lo llevará a la pantalla de compartir donde podrá compartir los resultados de su juego actual. Solo se mostrarán las sugerencias de color y no sus entradas reales.\nSi no desea compartir una sugerencia de color, simplemente toque la celda dada para resaltarla. Cualquier celda resaltada se mostrará en negro como color."}, nullptr, ""},
-    {"", {}, {"This button will give you a word from the available HINTS list that meets all your current color hints.", "Este botón le dará una palabra de la lista de HINTS disponibles que cumpla con todos sus hints de color actuales."}, nullptr, ""},
+    {"lightbulb", {}, {"This button will give you a word from the available HINTS list that meets all your current color hints.", "Este botón le dará una palabra de la lista de HINTS disponibles que cumpla con todos sus hints de color actuales."}, nullptr, ""},
     {"calendar", {}, {"This button will give you a list of all the available game dates to allow you to access a specific date.", "Este botón te dará una lista de todas las fechas de juegos disponibles para permitirte acceder a una fecha específica."}, nullptr, ""},
     {"sunrise", {}, {"This button will move you to the current day's date.", "Este botón lo llevará a la fecha del día actual."}, nullptr, ""},
     {"figure.wave", {}, {"This button will move you to the latest unfinished or available date.", "Este botón lo llevará a la última fecha inconclusa o disponible."}, nullptr, ""},

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <set>
 
+#include "catalogue/catalogue.h"
 #include "screens/game_groups.h"
 #include "screens/seventh_view.h"
 
@@ -176,6 +178,34 @@ TEST(OptionsSheet, GroupItemsKeepTheOtherHalfOfTheChoice) {
   };
   for (const Case& c : cases)
     EXPECT_EQ(itemTarget(c.from, c.label, c.group), c.target) << c.from << " " << c.label;
+}
+
+// Touch by touch from the first game, the sheet reaches every type that has a list, and no other.
+TEST(OptionsSheet, EveryTypeWithAListCanBeReached) {
+  std::set<std::string> reached;
+  std::vector<SeventhView> queue = {openSeventhView(startingOptions())};
+  std::set<std::pair<std::string, bool>> seen;
+  while (!queue.empty()) {
+    const SeventhView view = queue.back();
+    queue.pop_back();
+    if (!seen.insert({view.bindings.gameType, view.bindings.EnglishWords}).second) continue;
+    reached.insert(view.bindings.gameType);
+    for (const GameGroup& group : gameGroups(view)) {
+      SeventhView next = view;
+      chooseGroup(next, group);
+      queue.push_back(next);
+      for (const GroupItem& item : group.items) {
+        SeventhView touched = view;
+        chooseItem(touched, item);
+        queue.push_back(touched);
+      }
+    }
+  }
+  std::set<std::string> withLists;
+  for (const GameTypeInfo& info : gameCatalogue())
+    if (!info.answerFile.empty()) withLists.emplace(info.gameType);
+  EXPECT_EQ(withLists.size(), 25u);
+  EXPECT_EQ(reached, withLists);
 }
 
 TEST(OptionsSheet, SpanishWordsOfferOnlyTheLengthsWithLists) {

@@ -27,9 +27,14 @@ struct TestGame {
   std::unique_ptr<tessarine::Session> session;
   SessionHost host;
 
-  TestGame() {
-    session = std::make_unique<tessarine::Session>(dataDirectory.path().toStdString(), lists, clock, random);
-    host.attach(session.get());
+  TestGame() { start(); }
+
+  // A new session over the same stores, as the next launch of the app would be.
+  void start() {
+    auto next =
+        std::make_unique<tessarine::Session>(dataDirectory.path().toStdString(), lists, clock, random);
+    host.attach(next.get());
+    session = std::move(next);
     host.launch();
   }
 };
@@ -44,6 +49,7 @@ class TestSession : public QObject {
  public:
   explicit TestSession(TestGame& game) : game_(game) {}
   SessionHost* host() { return &game_.host; }
+  Q_INVOKABLE void restart() { game_.start(); }
   // Today's answer of "C", the first game.
   QString answer() const {
     const int day = tessarine::daysFromApril1st(game_.clock) - 1;

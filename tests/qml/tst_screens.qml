@@ -31,6 +31,9 @@ TestCase {
             { tag: "EighthView", file: "EighthView.qml", props: { host: host } },
             { tag: "NinthView", file: "NinthView.qml", props: { host: host } },
             { tag: "MatchSaveDialog", file: "MatchSaveDialog.qml", props: { match: host.match } },
+            { tag: "SeventhView", file: "SeventhView.qml", props: { options: host.options } },
+            { tag: "ThirdView", file: "ThirdView.qml", props: { help: host.help } },
+            { tag: "FourthView", file: "FourthView.qml", props: { help: host.help } },
         ]
     }
 
@@ -75,7 +78,8 @@ TestCase {
                        "exclamationmark.triangle.fill", "multiply", "questionmark.circle",
                        "graduationcap.fill", "parkingsign.circle", "checkmark.square.fill", "square",
                        "circle.circle", "figure.walk.diamond", "arrow.uturn.backward.square", "chevron.left",
-                       "doc.on.clipboard", "chart.bar", "square.and.arrow.down"]
+                       "doc.on.clipboard", "chart.bar", "square.and.arrow.down",
+                       "square.fill", "checkmark.square", "lightbulb"]
         for (const name of names)
             verify(Icons.glyph(name).length === 1, name)
         compare(Icons.glyph("graduationcap.blank"), "")

@@ -1,0 +1,91 @@
+#include "help_model.h"
+
+#include <QVariantMap>
+
+#include "catalogue/catalogue.h"
+#include "core_text.h"
+#include "options_model.h"
+#include "screens/colour_marks.h"
+#include "screens/fourth_view.h"
+#include "screens/third_view.h"
+#include "tile_texts.h"
+
+namespace {
+
+tessarine::ThirdView shownHelp(const OptionsModel& options) {
+  const tessarine::Options shown = options.shownOptions();
+  return tessarine::thirdView(shown.gameType, shown.EnglishTranslation, shown.EnglishWords);
+}
+
+tessarine::FourthView shownRules(const OptionsModel& options) {
+  const tessarine::Options shown = options.shownOptions();
+  return tessarine::fourthView(shown.gameType, shown.EnglishTranslation);
+}
+
+// The example tiles are drawn by the board's own tile, so they take the same texts it does.
+QVariantList exampleRows(const tessarine::SheetLine& line, bool equation, bool colourBlind) {
+  QVariantList rows;
+  for (const tessarine::ExampleRow& row : line.tiles) {
+    QVariantList tiles;
+    for (const tessarine::ExampleTile& tile : row) {
+      const QString symbol = fromCore(tile.symbol);
+      const QString colour = fromCore(tessarine::tileColorName(tile.colour));
+      tiles.append(QVariantMap{
+          {"glyph", glyphFor(symbol, equation)},
+          {"colorName", colour},
+          {"spokenName", spokenName(symbol, colour, equation)},
+          {"pattern", colourBlind ? fromCore(tessarine::colourBlindMark(tile.colour)) : QString()}});
+    }
+    rows.append(QVariant(tiles));
+  }
+  return rows;
+}
+
+}  // namespace
+
+HelpModel::HelpModel(OptionsModel& options, QObject* parent) : QObject(parent), options_(options) {
+  connect(&options, &OptionsModel::changed, this, &HelpModel::changed);
+}
+
+QString HelpModel::helpTitle() const {
+  return fromCore(shownHelp(options_).title);
+}
+
+QString HelpModel::backSymbol() {
+  return fromCore(tessarine::thirdView("", true, true).backSymbol);
+}
+
+QVariantList HelpModel::helpSections() const {
+  const tessarine::ThirdView view = shownHelp(options_);
+  const tessarine::GameTypeInfo* info = tessarine::findGameType(options_.shownOptions().gameType);
+  const bool equation = info != nullptr && info->typeOfGame == "E";
+  const bool colourBlind = options_.shownPresentation().colourBlind;
+  QVariantList sections;
+  for (const tessarine::SheetSection& section : view.sections) {
+    QVariantList lines;
+    for (const tessarine::SheetLine& line : section.lines) {
+      lines.append(QVariantMap{
+          {"text", fromCore(line.text)},
+          {"symbol", fromCore(line.symbol)},
+          {"colorName", line.colour ? fromCore(tessarine::tileColorName(*line.colour)) : QString()},
+          {"rows", exampleRows(line, equation, colourBlind)}});
+    }
+    sections.append(QVariantMap{{"heading", fromCore(section.heading)}, {"lines", lines}});
+  }
+  return sections;
+}
+
+QString HelpModel::rulesTitle() const {
+  return fromCore(shownRules(options_).title);
+}
+
+QString HelpModel::rulesBullet() {
+  return fromCore(tessarine::fourthView("", true).bullet);
+}
+
+QStringList HelpModel::rules() const {
+  QStringList rules;
+  for (const std::string& rule : shownRules(options_).rules)
+    rules << fromCore(rule);
+  return rules;
+}
