@@ -241,7 +241,8 @@ void MainScreenModel::moveCorrectLetters() {
   host_.run(&Session::moveCorrectLetters);
 }
 void MainScreenModel::submitGuess() {
-  host_.run(&Session::submitGuess);
+  // Enter on a keyboard does what the submit button does, and only while it is live.
+  if (submitEnabled()) host_.run(&Session::submitGuess);
 }
 void MainScreenModel::pressHints() {
   if (hintsEnabled_) host_.run(&Session::pressHints);

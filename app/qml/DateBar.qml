@@ -24,7 +24,7 @@ Column {
         Text {
             anchors.verticalCenter: parent.verticalCenter
             // Narrow phones take room from the date, never from the buttons.
-            width: Math.max(100, Math.min(190, bar.width - 3 * 44 - 3 * 6))
+            width: Math.max(100, Math.min(190, bar.width - 4 * 44 - 4 * 6))
             text: bar.dates.shownDate
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 12
