@@ -37,22 +37,9 @@ bool isSpanishWordType(const std::string& gameType) {
 
 std::string tileEmoji(const Board& b, int cell) {
   const TileColor color = b.cellBackground[static_cast<std::size_t>(cell)];
-  switch (color) {
-    case TileColor::gray:
-      return "⬜";
-    case TileColor::yellow:
-      return "🟨";
-    case TileColor::green:
-      return "🟩";
-    case TileColor::orange:
-      return "🟧";
-    case TileColor::blue:
-      return "🟦";
-    case TileColor::red:
-      return "🟥";
-    default:
-      break;
-  }
+  const std::string_view scoring = scoringEmoji(color);
+  if (!scoring.empty()) return std::string(scoring);
+  if (color == TileColor::red) return "🟥";
   if (b.cellLetter[static_cast<std::size_t>(cell)] == "=") return "🟰";
   return color == TileColor::white ? "🔲" : "🟪";
 }

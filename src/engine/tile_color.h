@@ -26,4 +26,23 @@ constexpr char tileColorLetter(TileColor color) {
   return detail::kTileColorLetters[static_cast<std::size_t>(color)];
 }
 
+// The emoji of a scoring colour in a shared grid ("🟩" for green); empty for the other colours,
+// which each text draws in its own way.
+constexpr std::string_view scoringEmoji(TileColor color) {
+  switch (color) {
+    case TileColor::gray:
+      return "⬜";
+    case TileColor::yellow:
+      return "🟨";
+    case TileColor::green:
+      return "🟩";
+    case TileColor::orange:
+      return "🟧";
+    case TileColor::blue:
+      return "🟦";
+    default:
+      return {};
+  }
+}
+
 }  // namespace tessarine

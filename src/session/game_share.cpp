@@ -10,22 +10,10 @@ constexpr const char* kHiddenTile = "⬛";
 
 // The emoji of one tile; null for a tile that says nothing about the answer.
 const char* tileEmoji(TileColor color) {
-  switch (color) {
-    case TileColor::gray:
-      return "⬜";
-    case TileColor::yellow:
-      return "🟨";
-    case TileColor::green:
-      return "🟩";
-    case TileColor::orange:
-      return "🟧";
-    case TileColor::blue:
-      return "🟦";
-    case TileColor::white:
-      return "🟰";  // on a finished board only the fixed equals tile stays white
-    default:
-      return nullptr;
-  }
+  const std::string_view scoring = scoringEmoji(color);
+  if (!scoring.empty()) return scoring.data();
+  // On a finished board only the fixed equals tile stays white.
+  return color == TileColor::white ? "🟰" : nullptr;
 }
 
 // The mark behind row `row`, and whether it keeps the game perfect. The first row has no marks of

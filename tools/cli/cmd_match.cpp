@@ -15,14 +15,11 @@
 #include "challenge/match_texts.h"
 #include "cli/cmd_match_view.h"
 #include "cli/command.h"
+#include "cli/line_runner.h"
 #include "engine/random_source.h"
 
 namespace tessarine::cli {
 namespace {
-
-struct CommandError {
-  std::string message;
-};
 
 int number(const std::string& text, const std::string& usage) {
   try {
@@ -224,22 +221,7 @@ class MatchRunner {
 
 int match(const Args& args) {
   if (!args.option("data")) throw UsageError{"match needs --data DIR"};
-  try {
-    MatchRunner runner(args);
-    std::string line;
-    while (std::getline(std::cin, line)) {
-      try {
-        runner.execute(line);
-      } catch (const CommandError& error) {
-        std::cout << "error: " << error.message << "\n";
-      }
-      std::cout.flush();  // a driver on the other end of a pipe reads each answer before it writes on
-    }
-  } catch (const FatalError& error) {
-    std::cout << "Fatal error: " << error.what() << "\n";
-    return 1;
-  }
-  return 0;
+  return runLines<MatchRunner>(args);
 }
 
 const Registrar command(

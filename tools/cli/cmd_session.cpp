@@ -11,6 +11,7 @@
 #include "cli/cmd_session_statistics.h"
 #include "cli/cmd_session_view.h"
 #include "cli/command.h"
+#include "cli/line_runner.h"
 #include "screens/refusal_message.h"
 #include "session/session.h"
 #include "session/session_texts.h"
@@ -194,21 +195,7 @@ class Runner {
 
 int session(const Args& args) {
   if (!args.option("data")) throw UsageError{"session needs --data DIR"};
-  try {
-    Runner runner(args);
-    std::string line;
-    while (std::getline(std::cin, line)) {
-      try {
-        runner.execute(line);
-      } catch (const CommandError& error) {
-        std::cout << "error: " << error.message << "\n";
-      }
-    }
-  } catch (const FatalError& error) {
-    std::cout << "Fatal error: " << error.what() << "\n";
-    return 1;
-  }
-  return 0;
+  return runLines<Runner>(args);
 }
 
 const Registrar sessionCommand(

@@ -4,14 +4,10 @@
 #include <optional>
 #include <string>
 
+#include "cli/line_runner.h"
 #include "session/session.h"
 
 namespace tessarine::cli {
-
-// A session command that cannot run; the runner prints "error: " and the message and goes on.
-struct CommandError {
-  std::string message;
-};
 
 // One line per board row, "LETTERS COLOURS", then "activeRow=N showKeypad=true|false".
 std::string sessionBoard(const ContentView& view);
