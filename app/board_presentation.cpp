@@ -50,8 +50,8 @@ std::vector<std::vector<int>> keyRows(const tessarine::Keypad& keypad, const std
   return rows;
 }
 
-double fittedLayoutWidth(const std::string& gameType, bool useQWERTY, int boardRows, int keypadRows, double width,
-                         double height) {
+double fittedLayoutWidth(const std::string& gameType, bool useQWERTY, int boardRows, int keypadRows,
+                         double width, double height) {
   // What does not grow with the width: the title bar, the date bar, the reserved message line,
   // the buttons under the keypad, the two hint lines and the margins; then the gaps of the rows.
   constexpr double kFixed = 368;

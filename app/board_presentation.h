@@ -18,5 +18,5 @@ std::vector<std::vector<int>> keyRows(const tessarine::Keypad& keypad, const std
 // The phone layout's width for a window of `width` x `height`: the window's width, unless the
 // screen (fixed bars, the board's rows, the message line and the keypad) would then be taller
 // than the window, in which case the width at which it just fits.
-double fittedLayoutWidth(const std::string& gameType, bool useQWERTY, int boardRows, int keypadRows, double width,
-                         double height);
+double fittedLayoutWidth(const std::string& gameType, bool useQWERTY, int boardRows, int keypadRows,
+                         double width, double height);

@@ -7,8 +7,8 @@
 #include <QQuickWindow>
 #include <QTimer>
 #include <algorithm>
-#include <ctime>
 #include <cstdio>
+#include <ctime>
 #include <string>
 #include <vector>
 
@@ -65,10 +65,11 @@ void report(const char* name, std::vector<Sample> samples) {
     frame.push_back(s.frameMs);
   }
   std::printf(
-      "%s: %zu keys, main-thread CPU median %.2f ms max %.2f ms, handling wall median %.2f ms, key to frame median "
+      "%s: %zu keys, main-thread CPU median %.2f ms max %.2f ms, handling wall median %.2f ms, key to frame "
+      "median "
       "%.2f ms max %.2f ms\n",
-      name, samples.size(), median(work), *std::max_element(work.begin(), work.end()), median(wait), median(frame),
-      *std::max_element(frame.begin(), frame.end()));
+      name, samples.size(), median(work), *std::max_element(work.begin(), work.end()), median(wait),
+      median(frame), *std::max_element(frame.begin(), frame.end()));
 }
 
 std::string activeRowText(const SessionHost& host) {
@@ -98,15 +99,16 @@ void runInputTiming(QQuickWindow& window, SessionHost& host) {
   const QString burst = QStringLiteral("SLOTH");
   for (int i = 0; i < burst.size(); ++i) {
     const QChar letter = burst[i];
-    QTimer::singleShot(5 * i, &window, [&window, letter] { sendKey(window, letter.unicode(), QString(letter)); });
+    QTimer::singleShot(5 * i, &window,
+                       [&window, letter] { sendKey(window, letter.unicode(), QString(letter)); });
   }
   QTimer::singleShot(5 * static_cast<int>(burst.size()) + 200, &window, [&host, burst] {
     const std::string typed = activeRowText(host);
     int dropped = 0;
     for (int i = 0; i < burst.size(); ++i)
       dropped += typed.find(static_cast<char>(burst[i].unicode())) == std::string::npos ? 1 : 0;
-    std::printf("burst of %lld keys 5 ms apart: %d dropped (row holds %s)\n", static_cast<long long>(burst.size()),
-                dropped, typed.c_str());
+    std::printf("burst of %lld keys 5 ms apart: %d dropped (row holds %s)\n",
+                static_cast<long long>(burst.size()), dropped, typed.c_str());
     std::fflush(stdout);
     QCoreApplication::quit();
   });

@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "board_presentation.h"
-#include "screens/board_sizes.h"
 #include "challenge/challenge_records.h"
 #include "challenge/match_screen_texts.h"
 #include "core_text.h"
+#include "screens/board_sizes.h"
 #include "session_host.h"
 #include "share_sink.h"
 #include "tile_items.h"
@@ -95,7 +95,8 @@ qreal MatchModel::cellWidth() const {
 qreal MatchModel::keyWidth() const {
   const QSizeF viewport = host_.mainScreen()->viewport();
   const std::string type = match_ != nullptr ? match_->state().gameType : host_.view().gameType;
-  return tessarine::boardMetrics(type, host_.view().useQWERTY, viewport.width(), viewport.height()).keypadWidth;
+  return tessarine::boardMetrics(type, host_.view().useQWERTY, viewport.width(), viewport.height())
+      .keypadWidth;
 }
 
 QStringList MatchModel::choiceLabels() const {

@@ -139,7 +139,8 @@ void runScriptedSession(QQuickWindow& window, SessionHost& host) {
   if (shot.isEmpty() && !timing) return;
   // "WIDTHxHEIGHT": the window as a device of that size would show it.
   const QStringList size = qEnvironmentVariable("TESSARINE_WINDOW_SIZE").split(QLatin1Char('x'));
-  if (size.size() == 2 && size[0].toInt() > 0 && size[1].toInt() > 0) window.resize(size[0].toInt(), size[1].toInt());
+  if (size.size() == 2 && size[0].toInt() > 0 && size[1].toInt() > 0)
+    window.resize(size[0].toInt(), size[1].toInt());
   auto once = std::make_shared<bool>(false);
   QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&window, &host, shot, timing, once] {
     if (*once) return;

@@ -25,7 +25,7 @@ const QHash<QString, char16_t>& table() {
       {QStringLiteral("multiply"), 0xe5cd},                       // close
       {QStringLiteral("questionmark.circle"), 0xe8fd},            // help_outline
       {QStringLiteral("graduationcap.fill"), 0xe80c},             // school
-      {QStringLiteral("parkingsign.circle"), u'P'},                // a P in a drawn circle, text font
+      {QStringLiteral("parkingsign.circle"), u'P'},               // a P in a drawn circle, text font
       {QStringLiteral("lightbulb"), 0xe0f0},                      // lightbulb: the hints button
       {QStringLiteral("checkmark.square"), 0xe834},               // check_box: the green button
       {QStringLiteral("chevron.left"), 0xe5cb},                   // chevron_left

@@ -27,8 +27,8 @@ std::vector<TileItem> boardItems(const tessarine::Board& board, int rows) {
     item.borderWidth = board.cellBorderWidth[at];
     item.gridRow = i / columns;
     item.gridColumn = i % columns;
-    item.spokenName =
-        QStringLiteral("row %1, column %2, ").arg(item.gridRow + 1).arg(item.gridColumn + 1) + item.spokenName;
+    item.spokenName = QStringLiteral("row %1, column %2, ").arg(item.gridRow + 1).arg(item.gridColumn + 1) +
+                      item.spokenName;
     item.rowLength = columns;
     items.push_back(std::move(item));
   }

@@ -163,8 +163,9 @@ bool countsKeptFromRowAbove(Cells& board) {
     const bool kept = tile == TileColor::orange ? cur < prev : cur >= prev;
     if (!kept) {
       board.markCopies(symbol);
-      return board.fail(tile == TileColor::orange ? SmartModeClass::orangeNotReduced : SmartModeClass::yellowDropped,
-                        symbol);
+      return board.fail(
+          tile == TileColor::orange ? SmartModeClass::orangeNotReduced : SmartModeClass::yellowDropped,
+          symbol);
     }
   }
   return true;

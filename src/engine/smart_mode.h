@@ -15,7 +15,14 @@ bool checkGrayTiles(Board& board);
 bool checkYellowTiles(Board& board);
 
 // What the first failed check found, in the classes that the player is told about.
-enum class SmartModeClass { greenNotKept, grayUsedAgain, yellowSameSpot, yellowDropped, blueNotIncreased, orangeNotReduced };
+enum class SmartModeClass {
+  greenNotKept,
+  grayUsedAgain,
+  yellowSameSpot,
+  yellowDropped,
+  blueNotIncreased,
+  orangeNotReduced
+};
 struct SmartModeFailure {
   SmartModeClass kind = SmartModeClass::greenNotKept;
   std::string symbol;

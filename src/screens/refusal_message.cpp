@@ -33,7 +33,8 @@ std::string fillExample(std::string_view sentence, std::string_view value) {
   std::size_t at = 0;
   while (at < sentence.size()) {
     const bool startsWord = at == 0 || sentence[at - 1] == ' ';
-    if (startsWord && sentence.substr(at, example.size()) == example && endsWord(sentence, at + example.size())) {
+    if (startsWord && sentence.substr(at, example.size()) == example &&
+        endsWord(sentence, at + example.size())) {
       filled += value;
       at += example.size();
     } else {
@@ -52,7 +53,8 @@ std::string refusalMessage(const ContentView& view) {
                                  : help::refusedEntryText(refusal.kind == RefusalKind::repeated);
   const auto sentence = help::familyText(texts, info, "", view.EnglishTranslation);
   if (!sentence) return {};
-  return fillExample(*sentence, refusal.kind == RefusalKind::smartMode ? refusal.smartMode.symbol : refusal.entry);
+  return fillExample(*sentence,
+                     refusal.kind == RefusalKind::smartMode ? refusal.smartMode.symbol : refusal.entry);
 }
 
 }  // namespace tessarine

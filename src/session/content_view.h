@@ -25,8 +25,8 @@ constexpr int kMaximumCells = 56;
 enum class RefusalKind { none, invalid, repeated, smartMode };
 struct Refusal {
   RefusalKind kind = RefusalKind::none;
-  std::string entry;            // the row as typed
-  SmartModeFailure smartMode;   // for a Smart Mode refusal: the first failed check and its symbol
+  std::string entry;           // the row as typed
+  SmartModeFailure smartMode;  // for a Smart Mode refusal: the first failed check and its symbol
 };
 
 // The state of the main screen. Plain values only: every action ends in a refresh that rebuilds the

@@ -43,13 +43,15 @@ TEST(ChallengeAnswer, StepsPastRecentlyUsedAnswers) {
       {"used 3000 records ago is kept", oldThenFiller(3000), 10, 10},
       {"used 2999 records ago steps on", oldThenFiller(2999), 10, 11},
       // Stepping stops only beyond 3000 records: one record later than the keep.
-      {"a stepped-on slot of 3000 ago is not taken", [] {
+      {"a stepped-on slot of 3000 ago is not taken",
+       [] {
          std::vector<int> r = {11, 10};
          const auto f = many(2998, 100);
          r.insert(r.end(), f.begin(), f.end());
          r.push_back(10);
          return r;
-       }(), 10, 12},
+       }(),
+       10, 12},
   };
   for (const auto& c : cases)
     EXPECT_EQ(stepPastUsedAnswers(usedOf(c.records), c.drawn), c.expected) << c.what;
@@ -62,9 +64,7 @@ TEST(ChallengeAnswer, LoadReducesTheIndexInPlace) {
     lines += "W" + std::to_string(i) + " \n";
   source.files["5LetterAnswers"] = lines;
   const Lists lists(source);
-  const struct {
-    int index, reduced;
-  } cases[] = {{0, 0}, {3653, 3653}, {3654, 0}, {3699, 45}, {-3, 0}};
+  const struct { int index, reduced; } cases[] = {{0, 0}, {3653, 3653}, {3654, 0}, {3699, 45}, {-3, 0}};
   for (const auto& c : cases) {
     int index = c.index;
     EXPECT_EQ(loadChallengeAnswer(lists, "C", index), "W" + std::to_string(c.reduced));

@@ -60,8 +60,9 @@ TEST(ChallengeRecord, SavedMatchReadsBack) {
 TEST(ChallengeRecord, MalformedSavedRecordsAreRefused) {
   const std::string good = savedMatchRecord(sampleMatch(), "x");
   MatchState back;
-  for (const std::string& bad : {good.substr(0, good.size() - 1), good + "y", "00a2X" + good.substr(5),
-                                 good.substr(0, 12) + "Q" + good.substr(13), std::string("\xff") + good.substr(1)})
+  for (const std::string& bad :
+       {good.substr(0, good.size() - 1), good + "y", "00a2X" + good.substr(5),
+        good.substr(0, 12) + "Q" + good.substr(13), std::string("\xff") + good.substr(1)})
     EXPECT_FALSE(readSavedMatch(bad, back)) << bad;
 }
 
@@ -69,9 +70,14 @@ TEST(ChallengeRecord, SavedNames) {
   const struct {
     const char* typed;
     std::optional<std::string> name;
-  } cases[] = {{"Lunch", "Lunch"}, {"  Lunch  ", "Lunch"}, {"", std::nullopt}, {"    ", std::nullopt},
-               {"12345678901234567890", "12345678901234567890"}, {"123456789012345678901", std::nullopt},
-               {"ÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑ", "ÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑ"}, {"Robert'); DROP TABLE x;--", std::nullopt},
+  } cases[] = {{"Lunch", "Lunch"},
+               {"  Lunch  ", "Lunch"},
+               {"", std::nullopt},
+               {"    ", std::nullopt},
+               {"12345678901234567890", "12345678901234567890"},
+               {"123456789012345678901", std::nullopt},
+               {"ÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑ", "ÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑÑ"},
+               {"Robert'); DROP TABLE x;--", std::nullopt},
                {"'; DROP TABLE x;--", "'; DROP TABLE x;--"}};
   for (const auto& c : cases)
     EXPECT_EQ(validSavedName(c.typed), c.name) << c.typed;
@@ -82,8 +88,9 @@ TEST(ChallengeRecords, ScanReopensTheStore) {
   const std::string saved = savedMatchRecord(sampleMatch(), "'; DROP TABLE x;--");
   {
     ChallengeDataManager store(dir);
-    for (const std::string& record : {std::string("0001XW"), std::string("0002XL"), std::string("0003CW"),
-                                      std::string("0004X"), saved, std::string("garbage"), std::string("0005XD")})
+    for (const std::string& record :
+         {std::string("0001XW"), std::string("0002XL"), std::string("0003CW"), std::string("0004X"), saved,
+          std::string("garbage"), std::string("0005XD")})
       store.saveEntry(record);
   }
   ChallengeDataManager store(dir);
@@ -97,7 +104,8 @@ TEST(ChallengeRecords, ScanReopensTheStore) {
   EXPECT_EQ(scan.used.count, 5);  // 1, 2, 4, the saved 42 and 5; type C and the garbage are not this type's
   EXPECT_EQ(scan.used.table[4], 3);
   EXPECT_EQ(challengeStatisticsText(scan, "X", true),
-            "5SL STATISTICS\n\nChallenges Played:  3\nChallenges Won:  1\nChallenges Lost:  1\nChallenges Draw:  1");
+            "5SL STATISTICS\n\nChallenges Played:  3\nChallenges Won:  1\nChallenges Lost:  1\nChallenges "
+            "Draw:  1");
   // Deleting a saved match keeps its answer used; deleting the last score keeps the counts until a rescan.
   ASSERT_TRUE(records.deleteSaved(scan, 0));
   records.deleteLastScore(scan);

@@ -31,7 +31,9 @@ inline std::filesystem::path freshFolder(const std::string& tag) {
 
 struct Device {
   explicit Device(const Lists& lists, const std::string& tag, std::uint64_t seed)
-      : dir(freshFolder(tag)), store(std::make_unique<ChallengeDataManager>(dir)), random(seed),
+      : dir(freshFolder(tag)),
+        store(std::make_unique<ChallengeDataManager>(dir)),
+        random(seed),
         match(std::make_unique<Match>(lists, *store, random, true)) {}
   ~Device() {
     match.reset();

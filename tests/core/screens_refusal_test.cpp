@@ -21,20 +21,27 @@ INSTANTIATE_TEST_SUITE_P(
     Sentences, FillExample,
     ::testing::Values(
         // The entry ends at the full stop; the equation keeps its "=".
-        FillCase{"The equation 7X6=41 is not a valid equation.", "9X8=71", "The equation 9X8=71 is not a valid equation."},
+        FillCase{"The equation 7X6=41 is not a valid equation.", "9X8=71",
+                 "The equation 9X8=71 is not a valid equation."},
         // Before "'s", after a comma and at each repeat; "the" and "mystery" hold no stray "E".
-        FillCase{"The letter E is in the wrong spot and the mystery word has less than two E's, but on the next guess, E was "
+        FillCase{"The letter E is in the wrong spot and the mystery word has less than two E's, but on the "
+                 "next guess, E was "
                  "still used twice.",
                  "Ñ",
-                 "The letter Ñ is in the wrong spot and the mystery word has less than two Ñ's, but on the next guess, Ñ was "
+                 "The letter Ñ is in the wrong spot and the mystery word has less than two Ñ's, but on the "
+                 "next guess, Ñ was "
                  "still used twice."},
         // A capital word that only starts like the example stays ("A todas" is not the letter T).
-        FillCase{"La letra T está en la palabra misteriosa pero en el lugar equivocado, pero en la siguiente suposición la T "
-                 "no se usó en ninguna posición. A todas las celdas donde se podría haber colocado la T se les da el color "
+        FillCase{"La letra T está en la palabra misteriosa pero en el lugar equivocado, pero en la siguiente "
+                 "suposición la T "
+                 "no se usó en ninguna posición. A todas las celdas donde se podría haber colocado la T se "
+                 "les da el color "
                  "rojo.",
                  "A",
-                 "La letra A está en la palabra misteriosa pero en el lugar equivocado, pero en la siguiente suposición la A "
-                 "no se usó en ninguna posición. A todas las celdas donde se podría haber colocado la A se les da el color "
+                 "La letra A está en la palabra misteriosa pero en el lugar equivocado, pero en la siguiente "
+                 "suposición la A "
+                 "no se usó en ninguna posición. A todas las celdas donde se podría haber colocado la A se "
+                 "les da el color "
                  "rojo."},
         FillCase{"The number 435 is not a prime number.", "4350", "The number 4350 is not a prime number."}));
 
@@ -43,10 +50,12 @@ TEST(RefusalMessage, NoneWhenTheRowWasNotRefused) {
   view.gameType = "C";
   EXPECT_EQ(refusalMessage(view), "");
   view.refusal = {RefusalKind::smartMode, "GHOST", {SmartModeClass::grayUsedAgain, "S"}};
-  EXPECT_EQ(refusalMessage(view), "The letter S is not in the mystery word in any spot, but on the next guess S was used again.");
+  EXPECT_EQ(refusalMessage(view),
+            "The letter S is not in the mystery word in any spot, but on the next guess S was used again.");
   view.EnglishTranslation = false;
   EXPECT_EQ(refusalMessage(view),
-            "La letra S no está en la palabra misteriosa en ningún lugar, pero en la siguiente suposición S se usó nuevamente.");
+            "La letra S no está en la palabra misteriosa en ningún lugar, pero en la siguiente suposición S "
+            "se usó nuevamente.");
 }
 
 }  // namespace

@@ -105,7 +105,8 @@ class Runner {
     } else if (verb == "message") {
       std::cout << refusalMessage(s.view()) << "\n";
     } else if (verb == "scoreline") {
-      for (const std::string& line : {scoreLine(s.view()), lostAnswerLine(s.view()), definitionLine(s.view(), s.lists())})
+      for (const std::string& line :
+           {scoreLine(s.view()), lostAnswerLine(s.view()), definitionLine(s.view(), s.lists())})
         if (!line.empty()) std::cout << line << "\n";
     } else if (verb == "green") {
       if (s.view().disableGreenButton) throw CommandError{"the green button is off"};
