@@ -34,6 +34,7 @@ Row {
                         colorName: modelData.colorName
                         spokenName: modelData.spokenName
                         pattern: modelData.pattern
+                        gridColumn: index
                         borderWidth: 1
                         size: line.tileSize
                     }
