@@ -1,5 +1,8 @@
 #include "symbol_icons.h"
 
+#include <QFontDatabase>
+#include <QStringList>
+
 #include <QHash>
 
 namespace {
@@ -55,6 +58,15 @@ const QHash<QString, char16_t>& table() {
 }
 
 }  // namespace
+
+QString SymbolIcons::fontFamily() {
+  static const QString family = [] {
+    const int id = QFontDatabase::addApplicationFont(QStringLiteral(":/Tessarine/fonts/MaterialIcons-Regular.ttf"));
+    const QStringList families = QFontDatabase::applicationFontFamilies(id);
+    return families.isEmpty() ? QString() : families.first();
+  }();
+  return family;
+}
 
 QString SymbolIcons::glyph(const QString& symbolName) {
   const auto found = table().constFind(symbolName);

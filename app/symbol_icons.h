@@ -10,9 +10,12 @@ class SymbolIcons : public QObject {
   Q_OBJECT
   QML_NAMED_ELEMENT(Icons)
   QML_SINGLETON
+  // The icon font's family, loaded once for every icon on every screen.
+  Q_PROPERTY(QString fontFamily READ fontFamily CONSTANT)
 
  public:
   using QObject::QObject;
+  static QString fontFamily();
   // The glyph for a symbol name; an unknown name is an empty string so nothing wrong is drawn.
   Q_INVOKABLE static QString glyph(const QString& symbolName);
   // Whether the glyph comes from the text font rather than the icon font.

@@ -7,11 +7,7 @@ Text {
     required property string symbol
     property real size: 24
 
-    FontLoader {
-        id: iconFont
-        source: "qrc:/Tessarine/fonts/MaterialIcons-Regular.ttf"
-    }
-    font.family: Icons.textGlyph(symbol) ? "DejaVu Sans" : iconFont.name
+    font.family: Icons.textGlyph(symbol) ? "DejaVu Sans" : Icons.fontFamily
     font.bold: Icons.textGlyph(symbol)
     font.pixelSize: Icons.circled(symbol) ? size * 0.7 : size
     text: Icons.glyph(symbol)

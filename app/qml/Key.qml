@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 
 // One key of a keypad. A dead key (black, or an operator that cannot stand at the cursor) has no
@@ -31,10 +32,17 @@ Rectangle {
         font.bold: true
         color: TilePalette.ink(key.colorName)
     }
-    PatternMark {
-        symbol: key.pattern
-        colorName: key.colorName
-        size: key.keyWidth * 0.4
+    // Made only for colour-blind players: most boards never need the marks.
+    Loader {
+        anchors.top: parent.top
+        anchors.right: parent.right
+        anchors.margins: 1
+        active: key.pattern !== ""
+        sourceComponent: PatternMark {
+            symbol: key.pattern
+            colorName: key.colorName
+            size: key.keyWidth * 0.4
+        }
     }
     MouseArea {
         anchors.fill: parent

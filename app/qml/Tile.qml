@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Tessarine
 
@@ -82,10 +83,17 @@ Rectangle {
         font.bold: true
         color: TilePalette.ink(tile.shownColor)
     }
-    PatternMark {
-        symbol: tile.pattern
-        colorName: tile.shownColor
-        size: tile.width * 0.34
+    // Made only for colour-blind players: most boards never need the marks.
+    Loader {
+        anchors.top: parent.top
+        anchors.right: parent.right
+        anchors.margins: 1
+        active: tile.pattern !== ""
+        sourceComponent: PatternMark {
+            symbol: tile.pattern
+            colorName: tile.shownColor
+            size: tile.width * 0.34
+        }
     }
     MouseArea {
         anchors.fill: parent
