@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls
 import QtTest
 import Tessarine
 import TessarineTest
@@ -9,11 +10,13 @@ Item {
     width: 390
     height: 844
 
-    ContentView {
-        id: screen
+    SheetHost {
+        id: sheets
         anchors.fill: parent
         host: TestSession.host
     }
+    // The main screen under the sheets, once the stack has made it.
+    property Item screen: null
 
     TestCase {
         name: "Keyboard"
@@ -38,6 +41,8 @@ Item {
         }
 
         function init() {
+            sheets.closeSheet()
+            screen = sheets.get(0, StackView.ForceLoad)
             screen.forceActiveFocus()
         }
 
@@ -58,37 +63,61 @@ Item {
             game.clearRow()
         }
 
-        function test_2_typing_after_each_popup() {
+        function test_2_typing_after_each_popup_and_sheet() {
+            const closeTop = () => keyClick(Qt.Key_Escape)
             const popups = [
-                () => TestSession.host.dateBar.openDateList(),
+                ["date wheel", () => TestSession.host.dateBar.openDateList(), closeTop],
+                ["options", () => sheets.openOptions(), () => sheets.goBack()],
+                ["how to play", () => sheets.openHelp(), () => sheets.closeSheet()],
+                ["statistics", () => TestSession.host.statistics.openStatistics(), () => sheets.closeSheet()],
+                ["challenge", () => sheets.openChallenge(), () => sheets.closeSheet()],
             ]
-            for (const openPopup of popups) {
-                openPopup()
+            for (const [name, open, close] of popups) {
+                open()
                 wait(50)
-                keyClick(Qt.Key_Escape)
+                close()
                 wait(50)
                 type("S")
-                compare(rowText(0)[0], "S", "typing stopped after a popup")
+                compare(rowText(0)[0], "S", "typing stopped after the " + name)
                 game.clearRow()
             }
         }
 
-        function test_3_refusals_are_explained() {
-            type("QZXQZ")
+        function setSmartMode(on) {
+            const options = TestSession.host.options
+            options.open()
+            options.setOption("smartMode", on)
+            options.close()
+        }
+
+        function guess(word) {
+            game.clearRow()
+            type(word)
             keyClick(Qt.Key_Return)
+        }
+
+        // The day's answer has an N in the wrong spot of CRANE and no C, R or A.
+        function test_3_refusals_are_explained() {
+            guess("QZXQZ")
             compare(message(), "The word QZXQZ is not a valid word.")
             type("C")
             compare(message(), "")
-            game.clearRow()
+            guess("CRANE")
+            guess("CRANE")
+            compare(message(), "The word CRANE was used previously.")
+            setSmartMode(true)
+            guess("SLOTH")
+            verify(message().startsWith("The letter N is in the mystery word but in the wrong spot, but on the next "
+                                        + "guess N was not used in any position."), message())
+            setSmartMode(false)
         }
 
         function test_4_a_lost_game_names_its_answer() {
-            const words = ["CRANE", "SLOTH", "PLUMB", "DWARF", "GHOST", "TIMID", "BLIMP"]
-                .filter(word => word !== testAnswer).slice(0, 6)
+            const words = ["PLUMB", "DWARF", "GHOST", "TIMID", "BLIMP", "CHUMP", "FIELD", "WORLD"]
+                .filter(word => word !== testAnswer)
             for (const word of words) {
-                game.clearRow()
-                type(word)
-                keyClick(Qt.Key_Return)
+                if (!game.showKeypad) break
+                guess(word)
             }
             compare(game.showKeypad, false)
             compare(game.scoreLine, "Picking up")
