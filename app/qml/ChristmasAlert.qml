@@ -14,8 +14,13 @@ Dialog {
     onWantedChanged: wanted ? open() : close()
     Component.onCompleted: if (wanted) open()
     closePolicy: Popup.NoAutoClose
+    background: Rectangle {
+        color: TilePalette.groupBackground
+        radius: 12
+    }
 
     header: Text {
+        color: TilePalette.text
         topPadding: 16
         leftPadding: 16
         rightPadding: 16
@@ -28,6 +33,7 @@ Dialog {
         Accessible.name: text
     }
     contentItem: Text {
+        color: TilePalette.text
         text: alert.alerts.christmasMessage
         textFormat: Text.PlainText
         wrapMode: Text.Wrap

@@ -13,6 +13,10 @@ Popup {
     width: 330
     padding: 16
     closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
+    background: Rectangle {
+        color: TilePalette.groupBackground
+        radius: 12
+    }
 
     // The session opens the list; opening lands on the line of the day on the board.
     readonly property bool wanted: wheel.dates.selectingDate
@@ -25,6 +29,7 @@ Popup {
         spacing: 12
 
         Text {
+            color: TilePalette.text
             anchors.horizontalCenter: parent.horizontalCenter
             text: wheel.dates.dateListTitle
             font.pixelSize: 19
@@ -41,6 +46,7 @@ Popup {
             wrap: false
             model: wheel.dates.allDatesInfo
             delegate: Text {
+                color: TilePalette.text
                 required property string modelData
                 required property int index
                 text: modelData

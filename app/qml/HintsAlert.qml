@@ -14,8 +14,13 @@ Dialog {
     onWantedChanged: wanted ? open() : close()
     Component.onCompleted: if (wanted) open()
     closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutside
+    background: Rectangle {
+        color: TilePalette.groupBackground
+        radius: 12
+    }
 
     contentItem: Text {
+        color: TilePalette.text
         text: alert.alerts.hintsAlertTitle
         wrapMode: Text.Wrap
         font.pixelSize: 17
