@@ -13,21 +13,12 @@
 #include <cstdio>
 #include <memory>
 
+#include "first_frame_report.h"
 #include "input_timing.h"
 #include "match_script.h"
 #include "session_host.h"
 
 namespace {
-
-// Resident memory in kB, from the kernel's own account of this process.
-long residentKilobytes() {
-  QFile status(QStringLiteral("/proc/self/status"));
-  if (!status.open(QIODevice::ReadOnly)) return -1;
-  for (const QByteArray& line : status.readAll().split('\n')) {
-    if (line.startsWith("VmRSS:")) return line.mid(6).trimmed().split(' ').value(0).toLong();
-  }
-  return -1;
-}
 
 // "keys:WORD" goes through the window as real key presses, the way a desktop keyboard types;
 // "keys:enter" and "keys:backspace" press those keys.
@@ -146,9 +137,7 @@ void runScriptedSession(QQuickWindow& window, SessionHost& host) {
     if (*once) return;
     *once = true;
     if (timing) {
-      std::printf("first-frame-epoch-ms %lld\nresident-kB %ld\n", QDateTime::currentMSecsSinceEpoch(),
-                  residentKilobytes());
-      std::fflush(stdout);
+      printFirstFrameReport();
       if (shot.isEmpty()) {
         QTimer::singleShot(0, qApp, &QCoreApplication::quit);
         return;

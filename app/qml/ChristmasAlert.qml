@@ -43,6 +43,10 @@ Dialog {
         Accessible.description: text
     }
     footer: DialogButtonBox {
+        background: Rectangle {
+            color: TilePalette.groupBackground
+            radius: 12
+        }
         Button {
             text: alert.alerts.christmasAlertButton
             onClicked: alert.reject()

@@ -30,6 +30,10 @@ Dialog {
         Accessible.name: text
     }
     footer: DialogButtonBox {
+        background: Rectangle {
+            color: TilePalette.groupBackground
+            radius: 12
+        }
         Button {
             objectName: "confirmHintButton"
             text: alert.alerts.hintsAlertConfirm

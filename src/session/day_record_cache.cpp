@@ -28,10 +28,12 @@ void DayRecordCache::fetch(const CoreDataManager& coreDM, std::ostream& log) {
   std::vector<DayRecord> previous;
   previous.swap(records_);
   records_.reserve(coreDM.countEntries());
+  const std::size_t previousSize = storeSize_;
   storeSize_ = 0;
   if (!coreDM.forEachEntry([&](Entry&& entry) { add(std::move(entry), storeSize_++, log); })) {
     // A locked or failing store is not an empty one: keep the last good copy and stay stale.
     records_.swap(previous);
+    storeSize_ = previousSize;
     return;
   }
   pendingSaves_.clear();
