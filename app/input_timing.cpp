@@ -28,13 +28,6 @@ double threadCpuMs() {
   return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
-void sendKey(QQuickWindow& window, int key, const QString& text) {
-  QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
-  QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, text);
-  QGuiApplication::sendEvent(&window, &down);
-  QGuiApplication::sendEvent(&window, &up);
-}
-
 // The key's handling on the main thread, then the wait for the frame that shows its result.
 Sample timeKey(QQuickWindow& window, int key, const QString& text) {
   QEventLoop frame;
@@ -81,6 +74,13 @@ std::string activeRowText(const SessionHost& host) {
 }
 
 }  // namespace
+
+void sendKey(QQuickWindow& window, int key, const QString& text) {
+  QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
+  QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, text);
+  QGuiApplication::sendEvent(&window, &down);
+  QGuiApplication::sendEvent(&window, &up);
+}
 
 void runInputTiming(QQuickWindow& window, SessionHost& host) {
   // Valid words of the five-letter game; none is the answer of the day the measuring script pins.

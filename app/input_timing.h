@@ -1,7 +1,12 @@
 #pragma once
 
+#include <QString>
+
 class QQuickWindow;
 class SessionHost;
+
+// One key pressed and released through the window, as a desktop keyboard would.
+void sendKey(QQuickWindow& window, int key, const QString& text);
 
 // With TESSARINE_INPUT_TIMING set: after the first frame, types on the main screen through the
 // window as a keyboard would and prints, for letter keys and for Enter, the main thread's work per

@@ -38,6 +38,7 @@ MainScreenModel::MainScreenModel(SessionHost& host)
 void MainScreenModel::refresh() {
   rebuildBoard();
   rebuildKeypad();
+  relayout();
   hintsEnabled_ = host_.session() != nullptr && host_.session()->hintsButtonLive();
   emit changed();
 }
@@ -127,32 +128,20 @@ void MainScreenModel::resizeViewport(qreal width, qreal height) {
   const QSizeF size(width, height);
   if (size == viewport_ || size.isEmpty()) return;
   viewport_ = size;
+  relayout();
   emit changed();
 }
 
-qreal MainScreenModel::layoutWidth() const {
+void MainScreenModel::relayout() {
   const ContentView& view = host_.view();
-  const int keypadRows = static_cast<int>(keyRows(view).size());
-  return fittedLayoutWidth(view.gameType, view.useQWERTY, view.gameRows, keypadRows, viewport_.width(),
-                           viewport_.height());
+  layoutWidth_ = fittedLayoutWidth(view.gameType, view.useQWERTY, view.gameRows, keypad_.gridRows(),
+                                   viewport_.width(), viewport_.height());
+  metrics_ = tessarine::boardMetrics(view.gameType, view.useQWERTY, layoutWidth_, viewport_.height());
 }
 
 bool MainScreenModel::reducedMotion() const {
   const QByteArray wanted = qgetenv("TESSARINE_REDUCED_MOTION");
   return !wanted.isEmpty() && wanted != "0";
-}
-
-tessarine::BoardMetrics MainScreenModel::metrics() const {
-  const ContentView& view = host_.view();
-  return tessarine::boardMetrics(view.gameType, view.useQWERTY, layoutWidth(), viewport_.height());
-}
-
-qreal MainScreenModel::cellWidth() const {
-  return metrics().cellWidth;
-}
-
-qreal MainScreenModel::keypadWidth() const {
-  return metrics().keypadWidth;
 }
 
 QString MainScreenModel::scoreLine() const {
@@ -193,16 +182,9 @@ void MainScreenModel::pressKey(int keyIndex) {
 
 bool MainScreenModel::typeText(const QString& typed) {
   if (!host_.ready() || !showKeypad()) return false;
-  QString symbol = typed.toUpper();
-  if (symbol == QLatin1String("*")) symbol = QStringLiteral("X");
-  const auto& keys = keypad_.items();
-  for (std::size_t i = 0; i < keys.size(); ++i) {
-    if (keys[i].symbol == symbol && keys[i].live) {
-      pressKey(static_cast<int>(i));
-      return true;
-    }
-  }
-  return false;
+  const int key = keypad_.liveIndexOf(typed);
+  if (key >= 0) pressKey(key);
+  return key >= 0;
 }
 
 bool MainScreenModel::shareEnabled() const {

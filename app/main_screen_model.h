@@ -73,10 +73,10 @@ class MainScreenModel : public QObject {
 
   QSizeF viewport() const { return viewport_; }
   Q_INVOKABLE void resizeViewport(qreal width, qreal height);
-  qreal layoutWidth() const;
+  qreal layoutWidth() const { return layoutWidth_; }
   bool reducedMotion() const;
-  qreal cellWidth() const;
-  qreal keypadWidth() const;
+  qreal cellWidth() const { return metrics_.cellWidth; }
+  qreal keypadWidth() const { return metrics_.keypadWidth; }
 
   QString scoreLine() const;
   QString scoreMark() const;
@@ -114,11 +114,15 @@ class MainScreenModel : public QObject {
  private:
   void rebuildBoard();
   void rebuildKeypad();
-  tessarine::BoardMetrics metrics() const;
+  // The layout width and tile sizes follow the game type and the window; both change only in
+  // refresh() and resizeViewport().
+  void relayout();
 
   SessionHost& host_;
   TileListModel board_;
   TileListModel keypad_;
   bool hintsEnabled_ = false;
   QSizeF viewport_{390, 844};
+  qreal layoutWidth_ = 390;
+  tessarine::BoardMetrics metrics_;
 };

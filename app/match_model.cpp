@@ -56,7 +56,8 @@ void MatchModel::act(const std::function<void(Match&)>& action) {
 }
 
 void MatchModel::refresh() {
-  if (match_ == nullptr) {
+  // A closed match does not follow the main game's key presses; opening it refreshes again.
+  if (!active()) {
     emit changed();
     return;
   }
@@ -217,16 +218,11 @@ void MatchModel::pressKey(int keyIndex) {
 
 bool MatchModel::typeText(const QString& typed) {
   if (!active()) return false;
-  QString symbol = typed.toUpper();
-  if (symbol == QLatin1String("*")) symbol = QStringLiteral("X");
-  const auto& keys = view_.atKey ? digitPad_.items() : keypad_.items();
   if (!view_.atKey && !view_.showKeypad) return false;
-  for (std::size_t i = 0; i < keys.size(); ++i) {
-    if (keys[i].symbol != symbol || !keys[i].live) continue;
-    view_.atKey ? pressDigit(static_cast<int>(i)) : pressKey(static_cast<int>(i));
-    return true;
-  }
-  return false;
+  const int key = (view_.atKey ? digitPad_ : keypad_).liveIndexOf(typed);
+  if (key < 0) return false;
+  view_.atKey ? pressDigit(key) : pressKey(key);
+  return true;
 }
 
 void MatchModel::touchCell(int cellIndex) {

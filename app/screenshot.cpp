@@ -23,12 +23,7 @@ namespace {
 // "keys:WORD" goes through the window as real key presses, the way a desktop keyboard types;
 // "keys:enter" and "keys:backspace" press those keys.
 void pressKeys(QQuickWindow& window, const QString& keys) {
-  const auto press = [&window](int key, const QString& text) {
-    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, text);
-    QGuiApplication::sendEvent(&window, &down);
-    QGuiApplication::sendEvent(&window, &up);
-  };
+  const auto press = [&window](int key, const QString& text) { sendKey(window, key, text); };
   if (keys.toLower() == QStringLiteral("enter")) return press(Qt::Key_Return, QStringLiteral("\r"));
   if (keys.toLower() == QStringLiteral("backspace")) return press(Qt::Key_Backspace, QString());
   for (const QChar symbol : keys)

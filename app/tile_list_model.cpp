@@ -70,3 +70,12 @@ void TileListModel::setItems(std::vector<TileItem> items) {
   }
   if (reshaped) emit shapeChanged();
 }
+
+int TileListModel::liveIndexOf(const QString& typed) const {
+  QString symbol = typed.toUpper();
+  if (symbol == QLatin1String("*")) symbol = QStringLiteral("X");
+  for (std::size_t i = 0; i < items_.size(); ++i) {
+    if (items_[i].symbol == symbol && items_[i].live) return static_cast<int>(i);
+  }
+  return -1;
+}

@@ -55,6 +55,8 @@ class TileListModel : public QAbstractListModel {
   int gridRows() const { return gridRows_; }
   int gridColumns() const { return gridColumns_; }
   const std::vector<TileItem>& items() const { return items_; }
+  // The live key that a physical keyboard's `typed` text means ("*" is the times key), or -1.
+  int liveIndexOf(const QString& typed) const;
 
   // Replaces the items: a new count is a reset, otherwise only the changed rows are announced.
   void setItems(std::vector<TileItem> items);

@@ -26,6 +26,10 @@ std::array<int, 6> challengeKeyDigits(std::string_view gameType, int challengeIn
 
 // The key as shown and sent: each digit a keycap emoji, "🔢" for a digit above 9.
 std::string makeChallengeKey(std::string_view gameType, int challengeIndex);
+// Whether `typed` is a key as a person types it: six plain digits.
+inline bool isKeyDigits(std::string_view typed) {
+  return typed.size() == 6 && typed.find_first_not_of("0123456789") == std::string_view::npos;
+}
 std::string keycap(int digit);
 
 // The short label of a game type in titles and share texts.

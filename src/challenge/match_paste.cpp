@@ -8,9 +8,7 @@
 namespace tessarine {
 
 bool Match::typeKey(const std::string& digits) {
-  if (m_.activeRow() != -1 || digits.size() != 6 ||
-      digits.find_first_not_of("0123456789") != std::string::npos)
-    return false;
+  if (m_.activeRow() != -1 || !isKeyDigits(digits)) return false;
   clearKey();
   for (const char digit : digits)
     enterKeyDigit(digit - '0');

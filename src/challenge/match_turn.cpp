@@ -10,8 +10,7 @@ namespace tessarine {
 
 void Match::submitRow() {
   m_.showKeypad = true;
-  m_.selectedGuessReceived = m_.selectedFoundAnswer = m_.selectedMissedFinalGuess = false;
-  m_.selectedWalked = m_.selectedStuckOut = m_.selectedIntentionalWalk = false;
+  clearTurnFlags();
   m_.repeatedGuess = m_.repeatedEntry = false;
   if (m_.activeRow() < 0) return acceptKey();
   if (m_.gameOver) return;

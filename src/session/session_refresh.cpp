@@ -52,17 +52,13 @@ void Session::reloadDay(bool recomputeStreaks, bool recomputeLatest) {
   // midnight) compares with the right equation.
   const int equalsPosition = v.prepopulate && isEquationType(v.gameType) ? v.answer.equalsColumn : 0;
   const int shownDay = v.latestDateIndex + v.activeDate;
-  // The scan runs over every record of every type; most differ in their first byte already.
-  const auto sameType = [&type = v.gameType](const std::string& other) {
-    return other.size() == type.size() && !other.empty() && other[0] == type[0] && other == type;
-  };
 
   ReplayScan scan;
   statistics_.begin(v, v.latestDateIndex);
   const StatisticsScope scope = v.statisticsScope();
   for (int i = 0; i < static_cast<int>(records.size()); ++i) {
     const DayRecord& record = records[i];
-    if (!sameType(record.gameType)) continue;
+    if (record.gameType != v.gameType) continue;
     if (record.dayIndex == shownDay) {
       if (scan.firstMatch == -1) scan.firstMatch = i;
       if (scan.lastMatch != -1) scan.olderMatches.push_back(scan.lastMatch);

@@ -1,22 +1,13 @@
-// The texts that leave the program from the statistics screens, and the one wrapper through which
-// every shared text goes out.
+// The texts that leave the program from the statistics screens.
 #pragma once
 
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "statistics/fifth_view.h"
 #include "statistics/second_view.h"
 
 namespace tessarine {
-
-// What the platform's share sheet receives: the text as its only item, nothing excluded.
-struct ShareSheetView {
-  std::vector<std::string> activityItems;
-
-  explicit ShareSheetView(std::string text) : activityItems{std::move(text)} {}
-};
 
 // The summary of the statistics screen. The ten-game average is gated on finished games here,
 // unlike the screen.

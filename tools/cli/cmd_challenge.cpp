@@ -20,8 +20,7 @@ int challenge(const Args& args) {
   }
   if (words.size() == 2 && words[0] == "check") {
     const std::string& typed = words[1];
-    if (typed.size() != 6 || typed.find_first_not_of("0123456789") != std::string::npos)
-      throw UsageError{"a key is six digits"};
+    if (!isKeyDigits(typed)) throw UsageError{"a key is six digits"};
     KeyCells cells;
     for (std::size_t i = 0; i < 6; ++i)
       cells[i] = std::string(1, typed[i]);

@@ -135,8 +135,7 @@ class MatchRunner {
   }
 
   void key(const std::string& digits) {
-    if (digits.size() != 6 || digits.find_first_not_of("0123456789") != std::string::npos)
-      throw CommandError{"usage: key DIGITS (six digits)"};
+    if (!isKeyDigits(digits)) throw CommandError{"usage: key DIGITS (six digits)"};
     if (!match_.typeKey(digits)) throw CommandError{"not at the key"};
     match_.submitRow();
   }
