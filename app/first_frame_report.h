@@ -17,6 +17,7 @@ inline void printFirstFrameReport() {
       if (line.startsWith("VmRSS:")) residentKilobytes = line.mid(6).trimmed().split(' ').value(0).toLong();
     }
   }
-  std::printf("first-frame-epoch-ms %lld\nresident-kB %ld\n", QDateTime::currentMSecsSinceEpoch(), residentKilobytes);
+  std::printf("first-frame-epoch-ms %lld\nresident-kB %ld\n", QDateTime::currentMSecsSinceEpoch(),
+              residentKilobytes);
   std::fflush(stdout);
 }

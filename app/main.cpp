@@ -1,19 +1,18 @@
 #include <QFile>
+#include <QFontDatabase>
 #include <QGuiApplication>
-#include <QQmlApplicationEngine>
-#include <QQuickStyle>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickWindow>
 #include <cstdio>
 #include <memory>
+#include <thread>
 
 #include "app_environment.h"
-#include "catalogue/fatal_error.h"
-#include "catalogue/lists.h"
-#include "device_random.h"
-#include "qt_resource_list_source.h"
+#include "core_start.h"
 #include "screenshot.h"
-#include "session/session.h"
 #include "session_host.h"
+#include "symbol_icons.h"
 
 namespace {
 
@@ -24,46 +23,43 @@ int failStart(const char* why) {
 
 }  // namespace
 
-// Builds the services, hands them to the session, and gives the QML the session host as the window's
-// initial property.
+// Starts the core on its own thread, builds Qt's side and compiles the screens meanwhile, then
+// gives the QML the session host as the window's initial property.
 int main(int argc, char* argv[]) {
-  QGuiApplication app(argc, argv);
+  // The names choose the stores' folder, so they come before anything reads the environment.
   QGuiApplication::setOrganizationName("Tessarine");
   QGuiApplication::setApplicationName("Tessarine");
+  CoreStart core(readAppEnvironment());
+
+  QGuiApplication app(argc, argv);
   QGuiApplication::setDesktopFileName(QStringLiteral("org.tessarine.Tessarine"));
-  QQuickStyle::setStyle("Basic");
 
-  const AppEnvironment environment = readAppEnvironment();
-  const QtResourceListSource listSource;
-  const tessarine::Lists lists(listSource);
-  DeviceRandom random;
+  // The fonts (fontconfig's configuration and caches, and the icon font) load on a thread of their
+  // own while the screens compile; the first text laid out would otherwise wait for them.
+  std::jthread fonts([] {
+    SymbolIcons::fontFamily();
+    QFontDatabase::families();
+  });
 
-  SessionHost host;
-  std::unique_ptr<tessarine::Session> session;
-  if (!environment.problem.isEmpty()) {
-    host.fail(environment.problem);
-  } else {
-    try {
-      session =
-          std::make_unique<tessarine::Session>(environment.dataDirectory, lists, *environment.clock, random);
-      host.attach(session.get());
-    } catch (const tessarine::FatalError& error) {
-      host.fail(QString::fromStdString(error.what()));
-    }
-  }
-  host.launch();
-  QObject::connect(&app, &QGuiApplication::applicationStateChanged, &host,
-                   &SessionHost::onApplicationStateChanged);
-
-  QQmlApplicationEngine engine;
+  QQmlEngine engine;
   // The QML module is built into the binary: look for it there, never beside the build tree.
   engine.addImportPath(QStringLiteral("qrc:/"));
   if (!QFile::exists(QStringLiteral(":/Tessarine/qmldir"))) return failStart("its QML module is missing");
-  engine.setInitialProperties({{QStringLiteral("host"), QVariant::fromValue(&host)}});
-  engine.load(QUrl(QStringLiteral("qrc:/Tessarine/qml/Main.qml")));
-  if (engine.rootObjects().isEmpty()) return failStart("its screens did not load (the lines above say why)");
-  if (auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst())) {
-    runScriptedSession(*window, host);
+  QQmlComponent screens(&engine, QUrl(QStringLiteral("qrc:/Tessarine/qml/Main.qml")));
+
+  SessionHost host;
+  core.handTo(host);
+  QObject::connect(&app, &QGuiApplication::applicationStateChanged, &host,
+                   &SessionHost::onApplicationStateChanged);
+  std::unique_ptr<QObject> root(
+      screens.createWithInitialProperties({{QStringLiteral("host"), QVariant::fromValue(&host)}}));
+  auto* window = qobject_cast<QQuickWindow*>(root.get());
+  if (window == nullptr) {
+    std::fprintf(stderr, "%s\n", qPrintable(screens.errorString()));
+    return failStart("its screens did not load (the lines above say why)");
   }
+  QObject::connect(window, &QQuickWindow::frameSwapped, &host, &SessionHost::firstFrameShown,
+                   static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+  runScriptedSession(*window, host);
   return QGuiApplication::exec();
 }

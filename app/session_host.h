@@ -78,6 +78,8 @@ class SessionHost : public QObject {
 
  signals:
   void updated();
+  // Once, when the window has shown its first frame: work that can wait for it starts here.
+  void firstFrameShown();
 
  private:
   tessarine::Session* session_ = nullptr;

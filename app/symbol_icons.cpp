@@ -61,7 +61,8 @@ const QHash<QString, char16_t>& table() {
 
 QString SymbolIcons::fontFamily() {
   static const QString family = [] {
-    const int id = QFontDatabase::addApplicationFont(QStringLiteral(":/Tessarine/fonts/MaterialIcons-Regular.ttf"));
+    const int id =
+        QFontDatabase::addApplicationFont(QStringLiteral(":/Tessarine/fonts/MaterialIcons-Regular.ttf"));
     const QStringList families = QFontDatabase::applicationFontFamilies(id);
     return families.isEmpty() ? QString() : families.first();
   }();

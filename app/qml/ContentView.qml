@@ -131,11 +131,14 @@ Rectangle {
                 Accessible.ignored: text.length === 0
             }
 
-            ScoreLines {
+            // Made once a game is over: most starts open on a game still in play.
+            LazyLoader {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: parent.width - 32
-                game: screen.game
-                visible: !screen.game.showKeypad
+                file: "ScoreLines.qml"
+                wanted: !screen.game.showKeypad
+                visible: wanted
+                properties: ({ game: screen.game })
             }
         }
 
@@ -193,8 +196,29 @@ Rectangle {
         }
     }
 
-    DateWheel { id: dateWheel; dates: screen.host.dateBar; onClosed: screen.takeKeyboard() }
-    HintsAlert { alerts: screen.host.alerts; onClosed: screen.takeKeyboard() }
-    ChristmasAlert { alerts: screen.host.alerts; onClosed: screen.takeKeyboard() }
-    ThankYouCover { anchors.fill: parent; alerts: screen.host.alerts }
+    LazyLoader {
+        id: dateWheel
+        file: "DateWheel.qml"
+        wanted: screen.host.dateBar.selectingDate
+        properties: ({ dates: screen.host.dateBar })
+        onClosed: screen.takeKeyboard()
+    }
+    LazyLoader {
+        file: "HintsAlert.qml"
+        wanted: screen.host.alerts.showHintsAlert
+        properties: ({ alerts: screen.host.alerts })
+        onClosed: screen.takeKeyboard()
+    }
+    LazyLoader {
+        file: "ChristmasAlert.qml"
+        wanted: screen.host.alerts.showChristmasAlert
+        properties: ({ alerts: screen.host.alerts })
+        onClosed: screen.takeKeyboard()
+    }
+    LazyLoader {
+        anchors.fill: parent
+        file: "ThankYouCover.qml"
+        wanted: screen.host.alerts.thankYouFlag
+        properties: ({ alerts: screen.host.alerts })
+    }
 }

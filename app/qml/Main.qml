@@ -28,10 +28,12 @@ Window {
         focus: true
         visible: !fatal.visible
     }
-    FatalErrorView {
+    LazyLoader {
         id: fatal
         anchors.fill: parent
-        message: window.host.fatalMessage
-        visible: message.length > 0
+        file: "FatalErrorView.qml"
+        wanted: window.host.fatalMessage.length > 0
+        visible: wanted
+        properties: ({ message: window.host.fatalMessage })
     }
 }

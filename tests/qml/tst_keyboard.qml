@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls
 import QtTest
 import Tessarine
 import TessarineTest
@@ -15,7 +14,6 @@ Item {
         anchors.fill: parent
         host: TestSession.host
     }
-    // The main screen under the sheets, once the stack has made it.
     property Item screen: null
 
     TestCase {
@@ -42,7 +40,7 @@ Item {
 
         function init() {
             sheets.closeSheet()
-            screen = sheets.get(0, StackView.ForceLoad)
+            screen = sheets.mainScreen
             screen.forceActiveFocus()
         }
 

@@ -63,13 +63,13 @@ TestCase {
     function test_sheets_open_over_the_main_screen() {
         const sheets = createTemporaryObject(Qt.createComponent("qrc:/Tessarine/qml/SheetHost.qml"),
                                              testCase, { host: host })
-        const sheet = Qt.createComponent("qrc:/Tessarine/qml/FatalErrorView.qml")
-        sheets.openSheet(sheet, { message: "A sheet" })
+        sheets.openSheet("FatalErrorView.qml", { message: "A sheet" }, {})
         compare(sheets.depth, 2)
         compare(sheets.currentItem.message, "A sheet")
         sheets.closeSheet()
         sheets.closeSheet()
         compare(sheets.depth, 1)
+        compare(sheets.currentItem, sheets.mainScreen)
     }
 
     // A symbol name that the table does not know would draw nothing at all.
