@@ -37,20 +37,18 @@ Rectangle {
         }
     }
 
-    // The phone layout, as wide as fits the window's height, centred.
+    // The phone layout, as wide as fits the window's height, centred. Its sizes are bindings, not
+    // anchors, so that the texts inside first lay out at the width they keep.
     Item {
         id: layout
-        anchors.top: parent.top
-        anchors.bottom: parent.bottom
-        anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(parent.width, screen.game.layoutWidth)
+        x: (screen.width - width) / 2
+        width: Math.min(screen.width, screen.game.layoutWidth)
+        height: screen.height
 
         Column {
             id: page
-            anchors.top: parent.top
-            anchors.left: parent.left
-            anchors.right: parent.right
-            anchors.topMargin: 8
+            y: 8
+            width: layout.width
             spacing: 10
 
             // The bars of buttons keep a phone's width even where the board is drawn narrower.
@@ -172,7 +170,8 @@ Rectangle {
                 anchors.horizontalCenter: parent.horizontalCenter
                 height: 20
                 text: screen.game.hintsLine
-                font.pixelSize: 15
+                // The size of the lines around it: one font fewer to load at the start.
+                font.pixelSize: 14
                 color: TilePalette.text
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text

@@ -26,9 +26,15 @@ Column {
             // Narrow phones take room from the date, never from the buttons.
             width: Math.max(100, Math.min(190, bar.width - 4 * 44 - 4 * 6))
             text: bar.dates.shownDate
-            fontSizeMode: Text.HorizontalFit
-            minimumPixelSize: 12
-            font.pixelSize: 19
+            // A long date shrinks to its width, measured once at full size rather than searched for
+            // size by size.
+            font.pixelSize: Math.max(12, Math.min(19, Math.floor(19 * width / Math.max(1, fullSize.advanceWidth))))
+            TextMetrics {
+                id: fullSize
+                font.pixelSize: 19
+                font.bold: true
+                text: bar.dates.shownDate
+            }
             font.bold: true
             color: TilePalette.text
             horizontalAlignment: Text.AlignHCenter

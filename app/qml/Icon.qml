@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Tessarine
 
@@ -17,14 +18,17 @@ Text {
     verticalAlignment: Text.AlignVCenter
     Accessible.ignored: true
 
-    Rectangle {
+    // The drawn circle of a circled symbol; most symbols have none, and make none.
+    Loader {
         anchors.centerIn: parent
-        width: icon.size
-        height: icon.size
-        radius: icon.size / 2
-        color: "transparent"
-        border.width: Math.max(1.5, icon.size / 12)
-        border.color: icon.color
-        visible: Icons.circled(icon.symbol)
+        active: Icons.circled(icon.symbol)
+        sourceComponent: Rectangle {
+            width: icon.size
+            height: icon.size
+            radius: icon.size / 2
+            color: "transparent"
+            border.width: Math.max(1.5, icon.size / 12)
+            border.color: icon.color
+        }
     }
 }

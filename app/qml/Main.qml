@@ -21,9 +21,12 @@ Window {
     Component.onCompleted: reportViewport()
 
     // The fatal stop covers everything; the main screen underneath no longer takes a touch.
+    // Sizes as bindings rather than anchors: they hold before the screens first lay out their
+    // texts, so no text is laid out twice, nor for a width it never has.
     SheetHost {
         objectName: "sheets"
-        anchors.fill: parent
+        width: window.width
+        height: window.height
         host: window.host
         focus: true
         visible: !fatal.visible

@@ -15,10 +15,12 @@ Column {
     property bool spoken: false
     property var names: []
     spacing: 4
-    visible: marks.symbols.length > 0 && marks.symbols[0] !== ""
+    readonly property bool shown: marks.symbols.length > 0 && marks.symbols[0] !== ""
+    visible: shown
 
     Repeater {
-        model: marks.rows
+        // A column without marks makes none.
+        model: marks.shown ? marks.rows : 0
         delegate: Item {
             id: slot
             required property int index

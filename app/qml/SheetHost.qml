@@ -108,7 +108,8 @@ Item {
 
     ContentView {
         id: main
-        anchors.fill: parent
+        width: sheets.width
+        height: sheets.height
         host: sheets.host
         focus: true
         onOpenOptions: sheets.openOptions()

@@ -4,8 +4,8 @@ import Tessarine
 
 // One cell of a board: its symbol on its colour, with the thick border on the active cell.
 // With motion on, a tile that gets its score turns over (one column after another), a refused
-// tile shakes and a winning tile bounces. The model changes at once: only the drawing follows. For colour-blind players the
-// mark of its colour stands in a corner.
+// tile shakes and a winning tile bounces. The model changes at once: only the drawing follows.
+// For colour-blind players the mark of its colour stands in a corner.
 Rectangle {
     id: tile
     required property int index
@@ -36,38 +36,31 @@ Rectangle {
         Translate { id: nudge }
     ]
 
+    // Made on the tile's first move; null while the tile has never moved.
+    property TileMotion motion: null
+    function moves(): TileMotion {
+        if (!tile.motion) {
+            tile.motion = Qt.createComponent("TileMotion.qml").createObject(tile, {
+                tile: tile, gridColumn: tile.gridColumn, face: face, nudge: nudge })
+            tile.motion.turnedChanged.connect(() => {
+                if (tile.motion.turned) tile.shownColor = tile.colorName
+            })
+            tile.motion.landed.connect(() => {
+                if (tile.celebrate && tile.colorName === "green") tile.motion.bounce()
+            })
+        }
+        return tile.motion
+    }
+
     onColorNameChanged: {
         const turnsOver = tile.animate && tile.shownColor === "white" && tile.scoringColors.indexOf(tile.colorName) >= 0
         if (turnsOver) {
-            flip.restart()
+            tile.moves().turnOver()
             return
         }
-        flip.stop()
-        face.yScale = 1
+        if (tile.motion) tile.motion.stop()
         tile.shownColor = tile.colorName
-        if (tile.animate && tile.refusalColors.indexOf(tile.colorName) >= 0) shake.restart()
-    }
-
-    SequentialAnimation {
-        id: flip
-        PauseAnimation { duration: tile.gridColumn * 70 }
-        NumberAnimation { target: face; property: "yScale"; to: 0; duration: 90 }
-        PropertyAction { target: tile; property: "shownColor"; value: tile.colorName }
-        NumberAnimation { target: face; property: "yScale"; to: 1; duration: 90 }
-        onFinished: if (tile.celebrate && tile.colorName === "green") bounce.restart()
-    }
-    SequentialAnimation {
-        id: shake
-        NumberAnimation { target: nudge; property: "x"; to: -6; duration: 35 }
-        NumberAnimation { target: nudge; property: "x"; to: 6; duration: 70 }
-        NumberAnimation { target: nudge; property: "x"; to: -3; duration: 60 }
-        NumberAnimation { target: nudge; property: "x"; to: 0; duration: 35 }
-    }
-    SequentialAnimation {
-        id: bounce
-        PauseAnimation { duration: tile.gridColumn * 60 }
-        NumberAnimation { target: nudge; property: "y"; to: -tile.height * 0.3; duration: 110 }
-        NumberAnimation { target: nudge; property: "y"; to: 0; duration: 160 }
+        if (tile.animate && tile.refusalColors.indexOf(tile.colorName) >= 0) tile.moves().shake()
     }
 
     // With a colour-blind mark in the corner, the symbol makes room for it.

@@ -72,6 +72,24 @@ TestCase {
         compare(sheets.currentItem, sheets.mainScreen)
     }
 
+    // With motion on, a scored tile keeps its blank face until it has turned half way; a refused
+    // tile takes its colour at once and shakes.
+    function test_tile_motion_data() {
+        return [
+            { tag: "scored", to: "green", first: "white" },
+            { tag: "refused", to: "red", first: "red" },
+        ]
+    }
+    function test_tile_motion(data) {
+        const tile = createTemporaryObject(Qt.createComponent("qrc:/Tessarine/qml/Tile.qml"), testCase, {
+            index: 0, gridColumn: 1, glyph: "A", colorName: "white", spokenName: "A", pattern: "",
+            borderWidth: 1, size: 40, animate: true })
+        tile.colorName = data.to
+        compare(tile.shownColor, data.first)
+        verify(tile.motion !== null)
+        tryCompare(tile, "shownColor", data.to, 1000)
+    }
+
     // A symbol name that the table does not know would draw nothing at all.
     function test_every_symbol_of_the_main_screen_has_a_glyph() {
         const names = ["gearshape", "info.circle", "square.and.arrow.up", "trash.square", "clear",
