@@ -68,6 +68,9 @@ class Match {
 
   const MatchState& state() const { return m_; }
   MatchView view() const;
+  // What the send button sends: the move while the match runs, the result once it is over. Built
+  // only when sent, not on every refresh.
+  std::string shareText() const;
   bool english() const { return english_; }
   const Lists& lists() const { return lists_; }
 
