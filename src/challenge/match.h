@@ -94,7 +94,6 @@ class Match {
 
   // Board helpers (match_board.cpp).
   void applyGameType();
-  void setAnswer(const std::string& word);
   void prepareRow();
   void writeRow(const std::vector<std::string>& symbols);
   void writeWord(const std::string& word);

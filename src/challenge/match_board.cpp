@@ -19,11 +19,6 @@ void Match::applyGameType() {
   m_.knowledge = Knowledge{};
 }
 
-void Match::setAnswer(const std::string& word) {
-  m_.challengeAnswerWord = word;
-  m_.board.answer = Answer(word);
-}
-
 int Match::neededEntries() const {
   return isEquationType(m_.gameType) ? m_.board.gameLetters - 1 : m_.board.gameLetters;
 }
