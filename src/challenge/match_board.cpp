@@ -51,11 +51,7 @@ void Match::writeWord(const std::string& word) {
 }
 
 void Match::paintRow(TileColor color) {
-  Board& b = m_.board;
-  for (int column = 0; column < b.gameLetters; ++column) {
-    const int cell = cellIndex(b, b.activeRow, column);
-    if (cell >= 0) b.cellBackground[static_cast<std::size_t>(cell)] = color;
-  }
+  fillRow(m_.board, color, EqualsTile::paint);
 }
 
 void Match::scoreActiveRow() {
