@@ -38,6 +38,7 @@ MainScreenModel::MainScreenModel(SessionHost& host)
 void MainScreenModel::refresh() {
   rebuildBoard();
   rebuildKeypad();
+  rebuildRowMarks();
   relayout();
   hintsEnabled_ = host_.session() != nullptr && host_.session()->hintsButtonLive();
   emit changed();
@@ -80,27 +81,19 @@ int MainScreenModel::currentPosition() const {
   return host_.view().currentPosition;
 }
 
-QStringList MainScreenModel::rowMarks() const {
+// The symbol, colour and spoken name of each row's mark come from one look at the row.
+void MainScreenModel::rebuildRowMarks() {
   const ContentView& view = host_.view();
-  QStringList marks;
-  for (int row = 0; row < view.gameRows; ++row)
-    marks << (view.showStarStatus ? fromCore(tessarine::rowMark(view, row).symbol) : QString());
-  return marks;
-}
-
-QStringList MainScreenModel::rowMarkColors() const {
-  const ContentView& view = host_.view();
-  QStringList colors;
-  for (int row = 0; row < view.gameRows; ++row)
-    colors << fromCore(tessarine::rowMark(view, row).color);
-  return colors;
-}
-
-QStringList MainScreenModel::rowMarkNames() const {
-  QStringList names;
-  for (const QString& symbol : rowMarks())
-    names << spokenMark(symbol);
-  return names;
+  rowMarks_.clear();
+  rowMarkColors_.clear();
+  rowMarkNames_.clear();
+  for (int row = 0; row < view.gameRows; ++row) {
+    const tessarine::MarkSymbol mark = tessarine::rowMark(view, row);
+    const QString symbol = view.showStarStatus ? fromCore(mark.symbol) : QString();
+    rowMarks_ << symbol;
+    rowMarkColors_ << fromCore(mark.color);
+    rowMarkNames_ << spokenMark(symbol);
+  }
 }
 
 QStringList MainScreenModel::familyMarks() const {

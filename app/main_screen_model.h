@@ -60,9 +60,9 @@ class MainScreenModel : public QObject {
   QString gameType() const;
   int activeRow() const;
   int currentPosition() const;
-  QStringList rowMarks() const;
-  QStringList rowMarkColors() const;
-  QStringList rowMarkNames() const;
+  QStringList rowMarks() const { return rowMarks_; }
+  QStringList rowMarkColors() const { return rowMarkColors_; }
+  QStringList rowMarkNames() const { return rowMarkNames_; }
   QStringList familyMarks() const;
   bool showKeypad() const;
   bool submitEnabled() const;
@@ -105,7 +105,7 @@ class MainScreenModel : public QObject {
   Q_INVOKABLE void pressHints();
 
  public slots:
-  // Rebuilds the board and keypad from the session, then emits `changed`.
+  // Rebuilds the board, keypad and row marks from the session, then emits `changed`.
   void refresh();
 
  signals:
@@ -114,6 +114,7 @@ class MainScreenModel : public QObject {
  private:
   void rebuildBoard();
   void rebuildKeypad();
+  void rebuildRowMarks();
   // The layout width and tile sizes follow the game type and the window; both change only in
   // refresh() and resizeViewport().
   void relayout();
@@ -121,6 +122,7 @@ class MainScreenModel : public QObject {
   SessionHost& host_;
   TileListModel board_;
   TileListModel keypad_;
+  QStringList rowMarks_, rowMarkColors_, rowMarkNames_;
   bool hintsEnabled_ = false;
   QSizeF viewport_{390, 844};
   qreal layoutWidth_ = 390;

@@ -133,9 +133,6 @@ QString MatchModel::statusSecondLine() const {
 QString MatchModel::sendLabel() const {
   return fromCore(view_.sendLabel);
 }
-QString MatchModel::shareText() const {
-  return fromCore(view_.shareText);
-}
 QString MatchModel::banner() const {
   return view_.gameOver ? fromCore(view_.banner) : QString();
 }
@@ -163,11 +160,6 @@ QStringList MatchModel::statisticsLines() const {
   for (const std::string& line : tessarine::challengeStatisticsLines(match_->scan(), english()))
     lines << fromCore(line);
   return lines;
-}
-
-QString MatchModel::statisticsText() const {
-  if (match_ == nullptr) return {};
-  return fromCore(tessarine::challengeStatisticsText(match_->scan(), match_->state().gameType, english()));
 }
 
 void MatchModel::open(const QString& gameType) {
@@ -277,22 +269,19 @@ void MatchModel::undo() {
 void MatchModel::send() {
   // The question button sends the query while the opponent's guess is refused.
   if (!active() || !(view_.showChoices || view_.showQuestion)) return;
-  host_.share(shareText().toStdString());
+  host_.share(match_->shareText());
   message_ = fromCore(tessarine::matchScreenTexts(match_->state().gameType, english()).copied);
   emit changed();
 }
 
 void MatchModel::sendStatistics() {
-  if (match_ != nullptr) host_.share(statisticsText().toStdString());
+  if (match_ != nullptr)
+    host_.share(tessarine::challengeStatisticsText(match_->scan(), match_->state().gameType, english()));
 }
 
 void MatchModel::paste() {
-  pasteText(readPastedText());
-}
-
-void MatchModel::pasteText(const QString& text) {
   if (!active()) return;
-  const std::string pasted = text.toStdString();
+  const std::string pasted = readPastedText().toStdString();
   std::string problem;
   act([&pasted, &problem](Match& m) { problem = m.paste(pasted); });
   if (!problem.empty()) {

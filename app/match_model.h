@@ -50,7 +50,6 @@ class MatchModel : public QObject {
   Q_PROPERTY(QString statusLine READ statusLine NOTIFY changed)
   Q_PROPERTY(QString statusSecondLine READ statusSecondLine NOTIFY changed)
   Q_PROPERTY(QString sendLabel READ sendLabel NOTIFY changed)
-  Q_PROPERTY(QString shareText READ shareText NOTIFY changed)
   Q_PROPERTY(bool gameOver READ gameOver NOTIFY changed)
   Q_PROPERTY(QString banner READ banner NOTIFY changed)
   Q_PROPERTY(QString bannerAnswer READ bannerAnswer NOTIFY changed)
@@ -91,7 +90,6 @@ class MatchModel : public QObject {
   QString statusLine() const;
   QString statusSecondLine() const;
   QString sendLabel() const;
-  QString shareText() const;
   bool gameOver() const { return view_.gameOver; }
   QString banner() const;
   QString bannerAnswer() const;
@@ -99,7 +97,6 @@ class MatchModel : public QObject {
   QString message() const { return message_; }
   QString statisticsTitle() const;
   QStringList statisticsLines() const;
-  Q_INVOKABLE QString statisticsText() const;
 
   // Opening: a new match of `gameType` (the game on the main screen when empty), the key pad of
   // the accepting player, a saved match, or the statistics of the game type.
@@ -127,7 +124,6 @@ class MatchModel : public QObject {
   Q_INVOKABLE void send();
   Q_INVOKABLE void sendStatistics();
   Q_INVOKABLE void paste();
-  Q_INVOKABLE void pasteText(const QString& text);
 
   // Saving with a name closes the match (true); otherwise `message` says why not.
   Q_INVOKABLE bool save(const QString& name);

@@ -68,6 +68,9 @@ class Match {
 
   const MatchState& state() const { return m_; }
   MatchView view() const;
+  // What the send button sends: the move while the match runs, the result once it is over. Built
+  // only when sent, not on every refresh.
+  std::string shareText() const;
   bool english() const { return english_; }
   const Lists& lists() const { return lists_; }
 
@@ -91,7 +94,6 @@ class Match {
 
   // Board helpers (match_board.cpp).
   void applyGameType();
-  void setAnswer(const std::string& word);
   void prepareRow();
   void writeRow(const std::vector<std::string>& symbols);
   void writeWord(const std::string& word);

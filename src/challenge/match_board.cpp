@@ -3,6 +3,7 @@
 #include "catalogue/catalogue.h"
 #include "catalogue/lists.h"
 #include "challenge/match.h"
+#include "engine/game_type.h"
 #include "engine/keypad_colors.h"
 #include "engine/scoring.h"
 #include "engine/validation.h"
@@ -11,18 +12,11 @@ namespace tessarine {
 
 void Match::applyGameType() {
   const GameTypeInfo* info = findGameType(m_.gameType);
-  Board& b = m_.board;
-  b.gameLetters = info ? info->tiles : kFallbackTiles;
-  b.gameRows = m_.numGuesses;  // a match has eight rows whatever the day game has
-  b.typeOfGame = info ? std::string(info->typeOfGame) : "L";
   m_.keypad = Keypad{};
-  m_.keypad.applyLayout(keypadLayout(info));
+  // A match has eight rows whatever the day game has.
+  tessarine::applyGameType(m_.board, m_.keypad, info, m_.numGuesses);
+  if (info == nullptr) m_.board.typeOfGame = "L";
   m_.knowledge = Knowledge{};
-}
-
-void Match::setAnswer(const std::string& word) {
-  m_.challengeAnswerWord = word;
-  m_.board.answer = Answer(word);
 }
 
 int Match::neededEntries() const {
@@ -57,11 +51,7 @@ void Match::writeWord(const std::string& word) {
 }
 
 void Match::paintRow(TileColor color) {
-  Board& b = m_.board;
-  for (int column = 0; column < b.gameLetters; ++column) {
-    const int cell = cellIndex(b, b.activeRow, column);
-    if (cell >= 0) b.cellBackground[static_cast<std::size_t>(cell)] = color;
-  }
+  fillRow(m_.board, color, EqualsTile::paint);
 }
 
 void Match::scoreActiveRow() {

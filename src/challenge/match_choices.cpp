@@ -89,7 +89,7 @@ void Match::undoChoice() {
   m_.disableSubmit = true;
   m_.board.cellBorderWidth[static_cast<std::size_t>(m_.currentPosition)] = 1.0;
   if (m_.youWonGame) {
-    writeWord(m_.challengeAnswerWord);
+    writeWord(m_.board.answer.text);
     paintRow(TileColor::green);
     return;
   }

@@ -22,7 +22,7 @@ void Match::openChallenge(const std::string& gameType, bool deleteLastChallengeS
   rescan(gameType);
   const ChosenAnswer chosen = chooseChallengeAnswer(lists_, gameType, random_, scan_.used);
   m_.challengeIndex = chosen.challengeIndex;
-  setAnswer(chosen.challengeAnswerWord);
+  m_.board.answer = Answer(chosen.challengeAnswerWord);
   if (deleteLastChallengeScore) records_.deleteLastScore(scan_);
   m_.board.clearCells();
   m_.board.activeRow = 0;
@@ -88,7 +88,7 @@ void Match::acceptKey() {
   m_.numCellEntries = 0;
   applyGameType();
   int index = m_.challengeIndex;
-  setAnswer(loadChallengeAnswer(lists_, m_.gameType, index));
+  m_.board.answer = Answer(loadChallengeAnswer(lists_, m_.gameType, index));
   m_.challengeIndex = index;
   m_.board.clearCells();
   m_.board.activeRow = 0;
@@ -128,7 +128,7 @@ bool Match::continueSaved(int choice) {
   m_.savedEntryId = entry.id;
   applyGameType();
   int index = m_.challengeIndex;
-  setAnswer(loadChallengeAnswer(lists_, m_.gameType, index));
+  m_.board.answer = Answer(loadChallengeAnswer(lists_, m_.gameType, index));
   m_.challengeIndex = index;
   m_.challengeKey = makeChallengeKey(m_.gameType, m_.challengeIndex);
   m_.challengeStarted = true;

@@ -96,7 +96,7 @@ void Match::submitReceivedGuess() {
     // The opponent's final guess after this player found the answer, and not the answer itself.
     endMatch();
     closeTurn();
-    writeWord(m_.challengeAnswerWord);
+    writeWord(m_.board.answer.text);
     paintRow(TileColor::green);
     return;
   }

@@ -21,7 +21,6 @@ struct MatchState {
   std::string gameType = "C";
   int numPlayer = 1;
   int challengeIndex = 0;
-  std::string challengeAnswerWord;
   std::string challengeKey;
   bool EnglishWords = true;
 

@@ -68,7 +68,7 @@ std::string ownLine(const MatchState& m, bool english) {
 
 std::string answerTranslation(const MatchState& m, const Lists& lists, bool english) {
   if (!english || !isSpanishWordType(m.gameType)) return {};
-  return "\n" + lists.translation(m.gameType, m.challengeAnswerWord);
+  return "\n" + lists.translation(m.gameType, m.board.answer.text);
 }
 
 }  // namespace
@@ -118,7 +118,7 @@ std::string matchFinalText(const MatchState& m, const Lists& lists, bool english
     text += pick(english, "\nDRAW\n", "\nEMPATAR\n");
   } else if (m.youWonGame) {
     text += pick(english, "\nWIN\n", "\nGANAR\n") + opponentLine(m, english);
-    if (m.playerLastGuess != m.challengeAnswerWord) text += ownLine(m, english);
+    if (m.playerLastGuess != m.board.answer.text) text += ownLine(m, english);
   } else if (m.opponentWonGame) {
     text += pick(english, "\nLOST\n", "\nPERDIR\n") + ownLine(m, english);
   } else {
@@ -126,7 +126,7 @@ std::string matchFinalText(const MatchState& m, const Lists& lists, bool english
                  "\nEMPATAR\nNingún jugador encontró la respuesta\n") +
             ownLine(m, english);
   }
-  return text + "Answer was " + m.challengeAnswerWord + answerTranslation(m, lists, english);
+  return text + "Answer was " + m.board.answer.text + answerTranslation(m, lists, english);
 }
 
 std::string sendButtonLabel(const MatchState& m, bool english) {
@@ -227,8 +227,8 @@ std::string matchBanner(const MatchState& m, bool english) {
 
 std::string matchBannerAnswer(const MatchState& m, const Lists& lists, bool english) {
   if (!m.gameOver || m.youWonGame) return {};
-  return pick(english, "Answer is ", "La respuesta es ") + m.challengeAnswerWord +
-         (isSpanishWordType(m.gameType) ? "\n" + lists.translation(m.gameType, m.challengeAnswerWord) : "");
+  return pick(english, "Answer is ", "La respuesta es ") + m.board.answer.text +
+         (isSpanishWordType(m.gameType) ? "\n" + lists.translation(m.gameType, m.board.answer.text) : "");
 }
 
 std::string invalidKeyText(bool english) {

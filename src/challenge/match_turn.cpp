@@ -28,8 +28,8 @@ void Match::submitOwn() {
       m_.invalidGuess = true;
       return;
     }
-    setAnswer(
-        adjustAnswerForFirstGuess(lists_, m_.gameType, m_.challengeIndex, word, m_.challengeAnswerWord));
+    m_.board.answer =
+        Answer(adjustAnswerForFirstGuess(lists_, m_.gameType, m_.challengeIndex, word, m_.board.answer.text));
     m_.challengeKey = makeChallengeKey(m_.gameType, m_.challengeIndex);
     paintRow(TileColor::white);
     m_.board.cellBorderWidth[static_cast<std::size_t>(m_.currentPosition)] = 1.0;
@@ -60,7 +60,7 @@ void Match::submitOwn() {
     return;
   }
   m_.invalidGuess = false;
-  if (word == m_.challengeAnswerWord) {
+  if (word == m_.board.answer.text) {
     paintRow(TileColor::green);
     m_.board.cellBorderWidth[static_cast<std::size_t>(m_.currentPosition)] = 1.0;
     m_.youWonGame = true;

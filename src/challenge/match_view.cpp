@@ -27,11 +27,14 @@ MatchView Match::view() const {
   v.statusLine = matchStatusLine(m, english_);
   v.statusSecondLine = matchStatusSecondLine(m, english_);
   v.sendLabel = sendButtonLabel(m, english_);
-  v.shareText = m.gameOver ? matchFinalText(m, lists_, english_) : matchShareText(m, english_);
   v.gameOver = m.gameOver;
   v.banner = matchBanner(m, english_);
   v.bannerAnswer = matchBannerAnswer(m, lists_, english_);
   return v;
+}
+
+std::string Match::shareText() const {
+  return m_.gameOver ? matchFinalText(m_, lists_, english_) : matchShareText(m_, english_);
 }
 
 }  // namespace tessarine

@@ -30,7 +30,7 @@ struct MatchView {
   bool showQuestion = false;  // the opponent's text can't be right
   int ballLamps = 0, strikeLamps = 0;
   std::string titleLine, statusLine, statusSecondLine;
-  std::string sendLabel, shareText;
+  std::string sendLabel;
   bool gameOver = false;
   std::string banner, bannerAnswer;
 };

@@ -36,12 +36,12 @@ void scoreGuess(Board& board, std::string_view guess) {
   }
 }
 
-void fillRow(Board& board, TileColor color) {
+void fillRow(Board& board, TileColor color, EqualsTile equals) {
   for (int c = 0; c < board.gameLetters; ++c) {
     const int cell = cellIndex(board, board.activeRow, c);
     if (cell >= 0) board.cellBackground[static_cast<std::size_t>(cell)] = color;
   }
-  if (board.typeOfGame == "E") {
+  if (equals == EqualsTile::keepWhite && board.typeOfGame == "E") {
     const int cell = cellIndex(board, board.activeRow, board.answer.equalsColumn);
     if (cell >= 0) board.cellBackground[static_cast<std::size_t>(cell)] = TileColor::white;
   }

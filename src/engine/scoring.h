@@ -10,8 +10,12 @@ namespace tessarine {
 // Colours row `activeRow` from `guess`; each tile is decided alone from the symbol counts.
 void scoreGuess(Board& board, std::string_view guess);
 
-// Paints the whole row `activeRow`; an equation keeps its "=" tile white.
-void fillRow(Board& board, TileColor color);
+// Whether painting a row leaves an equation's "=" white, as the day game's board frames it, or
+// paints it with the row, as a match does.
+enum class EqualsTile { keepWhite, paint };
+
+// Paints the whole row `activeRow`.
+void fillRow(Board& board, TileColor color, EqualsTile equals = EqualsTile::keepWhite);
 
 bool isWin(const Board& board, std::string_view guess);
 

@@ -2,25 +2,17 @@
 
 #include "catalogue/catalogue.h"
 #include "catalogue/lists.h"
+#include "engine/game_type.h"
 
 namespace tessarine {
 
 void applyCatalogue(ContentView& view) {
   const GameTypeInfo* info = findGameType(view.gameType);
-  view.applyLayout(keypadLayout(info));
-  if (info == nullptr) {
-    view.disablePlusKey = view.disableMinusKey = view.disableMultiplyKey = view.disableDivideKey = false;
-    view.gameLetters = kFallbackTiles;
-    view.gameRows = kFallbackRows;
-    view.pickingUp = std::to_string(kFallbackRows + 1);
-    return;
-  }
-  view.typeOfGame = std::string(info->typeOfGame);
-  view.gameLetters = info->tiles;
-  view.gameRows = info->rows;
-  view.pickingUp = std::to_string(info->rows + 1);
-  view.disablePlusKey = view.disableMinusKey = info->operators == OperatorSet::multiplyDivide;
-  view.disableMultiplyKey = view.disableDivideKey = info->operators == OperatorSet::addSubtract;
+  applyGameType(view, view, info);
+  view.pickingUp = std::to_string(view.gameRows + 1);
+  const OperatorSet operators = info != nullptr ? info->operators : OperatorSet::all;
+  view.disablePlusKey = view.disableMinusKey = operators == OperatorSet::multiplyDivide;
+  view.disableMultiplyKey = view.disableDivideKey = operators == OperatorSet::addSubtract;
 }
 
 bool operatorDisabled(const ContentView& view, std::string_view symbol) {

@@ -45,10 +45,12 @@ void createSettings(ContentView& view, SettingsDataManager& settingDM, CoreDataM
 
 void readSettings(ContentView& view, SettingsDataManager& settingDM) {
   const std::vector<Entry>& entries = view.settingEntries;
+  bool wrote = false;
   view.minimumDayIndex = parseIntOr(trimView(entries[0].text), 0);
   if (view.noMinimumDay && entries[0].text != view.newMinimumDayValue) {
     view.minimumDayIndex = parseIntOr(view.newMinimumDayValue, 0);
     settingDM.updateEntry(entries[0], view.newMinimumDayValue);
+    wrote = true;
   }
   const bool twoRecords = entries.size() == 2;
   // A second record of three is dropped, unless it holds the drawing choices.
@@ -61,13 +63,18 @@ void readSettings(ContentView& view, SettingsDataManager& settingDM) {
   // A damaged record is read with defaults but kept as it is, for the next save of the options.
   const bool damaged = full.rfind(view.gameType, 0) != 0;
   if (damaged) std::cout << "Unreadable game type in the options record: playing C" << std::endl;
-  if ((twoRecords || presentation) && full != options && !damaged) settingDM.updateEntry(optionsEntry, full);
+  if ((twoRecords || presentation) && full != options && !damaged) {
+    settingDM.updateEntry(optionsEntry, full);
+    wrote = true;
+  }
   if (presentation) {
     view.presentation = parsePresentationRecord(entries[1].text);
   } else if (!twoRecords) {
     settingDM.deleteEntry(entries[1]);
+    wrote = true;
   }
-  view.settingEntries = settingDM.getAllEntries();
+  // The copy in hand is the store as just fetched unless something was written (or tried).
+  if (wrote) view.settingEntries = settingDM.getAllEntries();
 }
 
 }  // namespace

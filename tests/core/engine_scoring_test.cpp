@@ -60,6 +60,8 @@ TEST(FillRow, RefusedEquationRowKeepsTheEqualsWhite) {
   board.enter(2, "99+99=46");
   fillRow(board.view, TileColor::cyan);
   EXPECT_EQ(board.rowColors(2), "cyan cyan cyan cyan cyan white cyan cyan");
+  fillRow(board.view, TileColor::pink, EqualsTile::paint);
+  EXPECT_EQ(board.rowColors(2), "pink pink pink pink pink pink pink pink") << "a match paints it too";
   EXPECT_EQ(board.view.answer.equalsColumn, 5);
   EngineBoard words("C", "CRANE");
   EXPECT_EQ(words.view.answer.equalsColumn, 0);

@@ -13,8 +13,8 @@ std::vector<std::string> records(Device& device) {
 
 TEST_F(MatchTest, OpeningBindsBothDevicesToOneAnswer) {
   open("C", "CRANE");
-  EXPECT_EQ(a_.s().challengeAnswerWord, "RELIC");
-  EXPECT_EQ(b_.s().challengeAnswerWord, "RELIC");
+  EXPECT_EQ(a_.s().board.answer.text, "RELIC");
+  EXPECT_EQ(b_.s().board.answer.text, "RELIC");
   EXPECT_EQ(b_.s().challengeKey, a_.s().challengeKey);
   EXPECT_EQ(b_.s().numPlayer, 2);
   EXPECT_EQ(b_.s().activeRow(), 1);
@@ -28,7 +28,7 @@ TEST_F(MatchTest, AnOpeningGuessEqualToTheAnswerMovesTheAnswer) {
   const int drawn = a_.s().challengeIndex;
   a_.guess("RELIC");
   EXPECT_EQ(a_.s().challengeIndex, drawn + 1);
-  EXPECT_NE(a_.s().challengeAnswerWord, "RELIC");
+  EXPECT_NE(a_.s().board.answer.text, "RELIC");
   EXPECT_EQ(a_.s().challengeKey, makeChallengeKey("C", drawn + 1));
 }
 

@@ -55,6 +55,8 @@ Item {
             verify(game.submitEnabled)
             tap("submitButton")
             compare(game.activeRow, 1)
+            // The row marks follow the accepted row, even while they are hidden.
+            compare(game.rowMarkColors.slice(0, 2), ["red", "blue"])
             for (const color of rowColors(0))
                 verify(["gray", "green", "blue", "yellow", "orange"].indexOf(color) >= 0, color)
 

@@ -1,6 +1,7 @@
 #include "cli/cmd_engine_board.h"
 
 #include "catalogue/catalogue.h"
+#include "engine/game_type.h"
 #include "engine/scoring.h"
 
 namespace tessarine::cli {
@@ -14,10 +15,7 @@ EngineBoard::EngineBoard(const Args& args, const std::string& type, const std::s
   source_ = std::make_unique<AnswerSource>(listSourceFor(args), std::string(info->answerFile), answer);
   lists_ = std::make_unique<Lists>(*source_);
   gameType_ = type;
-  keypad_.applyLayout(keypadLayout(info));
-  board_.typeOfGame = std::string(info->typeOfGame);
-  board_.gameLetters = info->tiles;
-  board_.gameRows = info->rows;
+  applyGameType(board_, keypad_, info);
   // A chosen answer stands for itself; it is no schedule the lists must cover.
   board_.answer = Answer(info->answerFile.empty() ? lists_->answer(type, 0) : answer);
   if (!answer.empty()) requireRowLength(answer);

@@ -103,7 +103,7 @@ class MatchRunner {
     } else if (verb == "delete") {
       if (!match_.deleteSaved(number(argument, "delete N"))) throw CommandError{"no saved match " + argument};
     } else if (verb == "share") {
-      std::cout << match_.view().shareText << "\n~~~\n";
+      std::cout << match_.shareText() << "\n~~~\n";
     } else if (verb == "final") {
       std::cout << matchFinalText(m, lists_, english) << "\n~~~\n";
     } else if (verb == "board") {

@@ -41,7 +41,7 @@ const std::map<std::string, Field, std::less<>>& fields() {
         {"gameType", [](M m) { return m.state().gameType; }},
         {"numPlayer", [](M m) { return number(m.state().numPlayer); }},
         {"challengeIndex", [](M m) { return number(m.state().challengeIndex); }},
-        {"challengeAnswerWord", [](M m) { return m.state().challengeAnswerWord; }},
+        {"challengeAnswerWord", [](M m) { return m.state().board.answer.text; }},
         {"challengeKey", [](M m) { return m.state().challengeKey; }},
         {"codeNumber", [](M m) { return joined(m.state().codeNumber); }},
         {"numCodeEntries", [](M m) { return number(m.state().numCodeEntries); }},
