@@ -12,6 +12,7 @@
 #include "core_start.h"
 #include "screenshot.h"
 #include "session_host.h"
+#include "start_steps.h"
 #include "symbol_icons.h"
 
 namespace {
@@ -27,11 +28,13 @@ int failStart(const char* why) {
 // gives the QML the session host as the window's initial property.
 int main(int argc, char* argv[]) {
   // The names choose the stores' folder, so they come before anything reads the environment.
+  markStartStep("main");
   QGuiApplication::setOrganizationName("Tessarine");
   QGuiApplication::setApplicationName("Tessarine");
   CoreStart core(readAppEnvironment());
 
   QGuiApplication app(argc, argv);
+  markStartStep("application");
   QGuiApplication::setDesktopFileName(QStringLiteral("org.tessarine.Tessarine"));
 
   // The fonts (fontconfig's configuration and caches, and the icon font) load on a thread of their
@@ -47,12 +50,15 @@ int main(int argc, char* argv[]) {
   if (!QFile::exists(QStringLiteral(":/Tessarine/qmldir"))) return failStart("its QML module is missing");
   QQmlComponent screens(&engine, QUrl(QStringLiteral("qrc:/Tessarine/qml/Main.qml")));
 
+  markStartStep("compiled");
   SessionHost host;
   core.handTo(host);
+  markStartStep("core");
   QObject::connect(&app, &QGuiApplication::applicationStateChanged, &host,
                    &SessionHost::onApplicationStateChanged);
   std::unique_ptr<QObject> root(
       screens.createWithInitialProperties({{QStringLiteral("host"), QVariant::fromValue(&host)}}));
+  markStartStep("created");
   auto* window = qobject_cast<QQuickWindow*>(root.get());
   if (window == nullptr) {
     std::fprintf(stderr, "%s\n", qPrintable(screens.errorString()));

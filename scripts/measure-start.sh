@@ -2,23 +2,28 @@
 # First frame and resident memory of the installed app next to an empty Qt Quick window of the same
 # size, both headless, measured in the same run and interleaved so that a busy machine weighs on both.
 #
-#   scripts/measure-start.sh [--runs N] [--app PATH] [--build DIR] [--history 18000|100000]
+#   scripts/measure-start.sh [--runs N] [--app PATH] [--build DIR] [--history 18000|100000] [--steps]
 #
 # With --history the app starts over stores holding that many day records (scripts/make-history.sh),
 # copied afresh for each run, on the day after the history ends.
+#
+# With --steps it also gives the median time from the start to each step of the app's own start
+# (the core on its thread, QGuiApplication, the screens compiled, the core handed over, the screens
+# made, the first frame).
 #
 # Without --app the build is installed (stripped) into a temporary prefix and that copy is timed, from
 # a working folder outside the tree, with a fresh HOME and empty stores each run.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-runs=10 app="" build=build/release history=""
+runs=10 app="" build=build/release history="" steps=""
 while (($#)); do
   case "$1" in
     --runs) runs="$2"; shift 2 ;;
     --app) app="$2"; shift 2 ;;
     --build) build="$2"; shift 2 ;;
     --history) history="$2"; shift 2 ;;
-    *) echo "usage: $0 [--runs N] [--app PATH] [--build DIR] [--history 18000|100000]" >&2; exit 2 ;;
+    --steps) steps=1; shift ;;
+    *) echo "usage: $0 [--runs N] [--app PATH] [--build DIR] [--history 18000|100000] [--steps]" >&2; exit 2 ;;
   esac
 done
 bare="$PWD/$build/bench/bare_window/tessarine_bare_window"
@@ -43,7 +48,9 @@ run_once() {
   [ -n "$history" ] && cp -r "$work/history" "$home/data"
   start=$(date +%s%3N)
   { time out=$(cd "$work" && env -u XDG_DATA_HOME -u XDG_CONFIG_HOME HOME="$home" QT_QPA_PLATFORM=offscreen \
-    XDG_RUNTIME_DIR="$home" TESSARINE_FIRST_FRAME=1 "${stores[@]}" timeout 60 "$1" 2>/dev/null); } 2>"$work/time"
+    XDG_RUNTIME_DIR="$home" TESSARINE_FIRST_FRAME=1 TESSARINE_START_STEPS=1 "${stores[@]}" timeout 60 "$1" \
+    2>/dev/null); } 2>"$work/time"
+  awk -v start="$start" '/^start-step/ {print $2, $3 - start}' <<<"$out" >>"$work/steps"
   cpu=$(awk '{printf "%d", ($1 + $2) * 1000}' "$work/time")
   awk -v start="$start" -v cpu="$cpu" '/^first-frame-epoch-ms/ {ms = $2 - start} /^resident-kB/ {kb = $2}
     END {if (ms == "") exit 1; print ms, kb, cpu}' <<<"$out"
@@ -53,6 +60,7 @@ run_once() {
 median() { sort -n | awk '{v[NR] = $1} END {print (NR % 2) ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2}'; }
 
 run_once "$bare" >/dev/null && run_once "$app" >/dev/null  # warm the file cache
+: >"$work/steps"
 : >"$work/bare" && : >"$work/app"
 for _ in $(seq "$runs"); do
   run_once "$bare" >>"$work/bare"
@@ -68,3 +76,10 @@ echo "medians of $runs runs each"
 report "bare Qt Quick window" bare
 report "tessarine" app
 awk -v a="$(column app 1)" -v b="$(column bare 1)" 'BEGIN {printf "first frame, app / bare: %.2f\n", a / b}'
+if [ -n "$steps" ]; then
+  printf 'steps of the app, median ms from the start:'
+  for step in main application compiled core created; do
+    printf ' %s %s' "$step" "$(awk -v s="$step" '$1 == s {print $2}' "$work/steps" | median)"
+  done
+  printf ' frame %s\n' "$(column app 1)"
+fi
