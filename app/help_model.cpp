@@ -84,8 +84,5 @@ QString HelpModel::rulesBullet() {
 }
 
 QStringList HelpModel::rules() const {
-  QStringList rules;
-  for (const std::string& rule : shownRules(options_).rules)
-    rules << fromCore(rule);
-  return rules;
+  return fromCoreList(shownRules(options_).rules);
 }

@@ -141,11 +141,7 @@ QString MatchModel::bannerAnswer() const {
 }
 
 QStringList MatchModel::savedNames() const {
-  QStringList names;
-  if (match_ == nullptr) return names;
-  for (const std::string& name : match_->scan().savedChallengesName)
-    names << fromCore(name);
-  return names;
+  return match_ != nullptr ? fromCoreList(match_->scan().savedChallengesName) : QStringList();
 }
 
 QString MatchModel::statisticsTitle() const {
@@ -155,11 +151,8 @@ QString MatchModel::statisticsTitle() const {
 }
 
 QStringList MatchModel::statisticsLines() const {
-  QStringList lines;
-  if (match_ == nullptr) return lines;
-  for (const std::string& line : tessarine::challengeStatisticsLines(match_->scan(), english()))
-    lines << fromCore(line);
-  return lines;
+  return match_ != nullptr ? fromCoreList(tessarine::challengeStatisticsLines(match_->scan(), english()))
+                           : QStringList();
 }
 
 void MatchModel::open(const QString& gameType) {
