@@ -34,8 +34,6 @@ class MainScreenModel : public QObject {
   Q_PROPERTY(bool hasHintsButton READ hasHintsButton NOTIFY changed)
   Q_PROPERTY(bool hintsEnabled READ hintsEnabled NOTIFY changed)
   Q_PROPERTY(bool shareEnabled READ shareEnabled NOTIFY changed)
-  // Sizes, from the screen the window reports through resizeViewport().
-  Q_PROPERTY(QSizeF viewport READ viewport NOTIFY changed)
   // The width the phone layout is drawn at: the window's, or less where the height would not hold
   // the whole screen; the column is centred in the window.
   Q_PROPERTY(qreal layoutWidth READ layoutWidth NOTIFY changed)
@@ -71,6 +69,7 @@ class MainScreenModel : public QObject {
   bool hintsEnabled() const { return hintsEnabled_; }
   bool shareEnabled() const;  // once the game of the shown day is over
 
+  // The window, as reported through resizeViewport().
   QSizeF viewport() const { return viewport_; }
   Q_INVOKABLE void resizeViewport(qreal width, qreal height);
   qreal layoutWidth() const { return layoutWidth_; }
