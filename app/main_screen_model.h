@@ -5,6 +5,7 @@
 #include <QSizeF>
 #include <QString>
 #include <QStringList>
+#include <string_view>
 
 #include "board_presentation.h"
 #include "screens/board_sizes.h"
@@ -76,6 +77,9 @@ class MainScreenModel : public QObject {
   bool reducedMotion() const;
   qreal cellWidth() const { return metrics_.cellWidth; }
   qreal keypadWidth() const { return metrics_.keypadWidth; }
+  // The sizes of `gameType` drawn across the whole window, for a screen that lays out rows of its
+  // own (the match) rather than the main screen's fitted column.
+  tessarine::BoardMetrics windowMetrics(std::string_view gameType) const;
 
   QString scoreLine() const;
   QString scoreMark() const;
@@ -109,6 +113,8 @@ class MainScreenModel : public QObject {
 
  signals:
   void changed();
+  // The window's size changed; `changed` follows too.
+  void resized();
 
  private:
   void rebuildBoard();
