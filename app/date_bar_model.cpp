@@ -33,10 +33,7 @@ bool DateBarModel::playFutureGames() const {
 }
 
 QStringList DateBarModel::allDatesInfo() const {
-  QStringList lines;
-  for (const auto& line : host_.view().allDatesInfo)
-    lines << fromCore(line);
-  return lines;
+  return fromCoreList(host_.view().allDatesInfo);
 }
 
 int DateBarModel::selectedDateIndex() const {

@@ -48,11 +48,11 @@ HelpModel::HelpModel(OptionsModel& options, QObject* parent) : QObject(parent), 
 }
 
 QString HelpModel::helpTitle() const {
-  return fromCore(shownHelp(options_).title);
+  return fromCore(tessarine::thirdViewTitle(options_.shownOptions().EnglishTranslation));
 }
 
 QString HelpModel::backSymbol() {
-  return fromCore(tessarine::thirdView("", true, true).backSymbol);
+  return fromCore(tessarine::ThirdView::backSymbol);
 }
 
 QVariantList HelpModel::helpSections() const {
@@ -76,16 +76,13 @@ QVariantList HelpModel::helpSections() const {
 }
 
 QString HelpModel::rulesTitle() const {
-  return fromCore(shownRules(options_).title);
+  return fromCore(tessarine::FourthView::title);
 }
 
 QString HelpModel::rulesBullet() {
-  return fromCore(tessarine::fourthView("", true).bullet);
+  return fromCore(tessarine::FourthView::bullet);
 }
 
 QStringList HelpModel::rules() const {
-  QStringList rules;
-  for (const std::string& rule : shownRules(options_).rules)
-    rules << fromCore(rule);
-  return rules;
+  return fromCoreList(shownRules(options_).rules);
 }

@@ -122,7 +122,12 @@ void MainScreenModel::resizeViewport(qreal width, qreal height) {
   if (size == viewport_ || size.isEmpty()) return;
   viewport_ = size;
   relayout();
+  emit resized();
   emit changed();
+}
+
+tessarine::BoardMetrics MainScreenModel::windowMetrics(std::string_view gameType) const {
+  return tessarine::boardMetrics(gameType, host_.view().useQWERTY, viewport_.width(), viewport_.height());
 }
 
 void MainScreenModel::relayout() {

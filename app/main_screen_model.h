@@ -5,6 +5,7 @@
 #include <QSizeF>
 #include <QString>
 #include <QStringList>
+#include <string_view>
 
 #include "board_presentation.h"
 #include "screens/board_sizes.h"
@@ -34,8 +35,6 @@ class MainScreenModel : public QObject {
   Q_PROPERTY(bool hasHintsButton READ hasHintsButton NOTIFY changed)
   Q_PROPERTY(bool hintsEnabled READ hintsEnabled NOTIFY changed)
   Q_PROPERTY(bool shareEnabled READ shareEnabled NOTIFY changed)
-  // Sizes, from the screen the window reports through resizeViewport().
-  Q_PROPERTY(QSizeF viewport READ viewport NOTIFY changed)
   // The width the phone layout is drawn at: the window's, or less where the height would not hold
   // the whole screen; the column is centred in the window.
   Q_PROPERTY(qreal layoutWidth READ layoutWidth NOTIFY changed)
@@ -71,12 +70,16 @@ class MainScreenModel : public QObject {
   bool hintsEnabled() const { return hintsEnabled_; }
   bool shareEnabled() const;  // once the game of the shown day is over
 
+  // The window, as reported through resizeViewport().
   QSizeF viewport() const { return viewport_; }
   Q_INVOKABLE void resizeViewport(qreal width, qreal height);
   qreal layoutWidth() const { return layoutWidth_; }
   bool reducedMotion() const;
   qreal cellWidth() const { return metrics_.cellWidth; }
   qreal keypadWidth() const { return metrics_.keypadWidth; }
+  // The sizes of `gameType` drawn across the whole window, for a screen that lays out rows of its
+  // own (the match) rather than the main screen's fitted column.
+  tessarine::BoardMetrics windowMetrics(std::string_view gameType) const;
 
   QString scoreLine() const;
   QString scoreMark() const;
@@ -110,6 +113,8 @@ class MainScreenModel : public QObject {
 
  signals:
   void changed();
+  // The window's size changed; `changed` follows too.
+  void resized();
 
  private:
   void rebuildBoard();

@@ -35,6 +35,7 @@ std::vector<TileItem> digitPadItems() {
 MatchModel::MatchModel(SessionHost& host)
     : QObject(&host), host_(host), texts_(this), board_(this), keypad_(this), digitPad_(this) {
   digitPad_.setItems(digitPadItems());
+  connect(host.mainScreen(), &MainScreenModel::resized, this, &MatchModel::relayout);
 }
 
 MatchModel::~MatchModel() = default;
@@ -55,7 +56,21 @@ void MatchModel::act(const std::function<void(Match&)>& action) {
   host_.act([this, &action](Session&) { action(*match_); });
 }
 
+void MatchModel::relayout() {
+  const MainScreenModel& screen = *host_.mainScreen();
+  const tessarine::BoardMetrics metrics =
+      screen.windowMetrics(match_ != nullptr ? match_->state().gameType : host_.view().gameType);
+  // Eight rows and the keypad share the screen: the rows take at most two fifths of it.
+  const qreal cellWidth =
+      std::min<qreal>(metrics.cellWidth, screen.viewport().height() * 0.4 / tessarine::kMatchRows - 4);
+  if (cellWidth == cellWidth_ && metrics.keypadWidth == keyWidth_) return;
+  cellWidth_ = cellWidth;
+  keyWidth_ = metrics.keypadWidth;
+  emit sizesChanged();
+}
+
 void MatchModel::refresh() {
+  relayout();
   // A closed match does not follow the main game's key presses; opening it refreshes again.
   if (!active()) {
     emit changed();
@@ -82,22 +97,6 @@ QStringList MatchModel::keyCells() const {
 
 int MatchModel::keyCursor() const {
   return match_ != nullptr && view_.atKey ? match_->state().currentPosition : -1;
-}
-
-qreal MatchModel::cellWidth() const {
-  const QSizeF viewport = host_.mainScreen()->viewport();
-  const std::string type = match_ != nullptr ? match_->state().gameType : host_.view().gameType;
-  const double width =
-      tessarine::boardMetrics(type, host_.view().useQWERTY, viewport.width(), viewport.height()).cellWidth;
-  // Eight rows and the keypad share the screen: the rows take at most two fifths of it.
-  return std::min(width, viewport.height() * 0.4 / tessarine::kMatchRows - 4);
-}
-
-qreal MatchModel::keyWidth() const {
-  const QSizeF viewport = host_.mainScreen()->viewport();
-  const std::string type = match_ != nullptr ? match_->state().gameType : host_.view().gameType;
-  return tessarine::boardMetrics(type, host_.view().useQWERTY, viewport.width(), viewport.height())
-      .keypadWidth;
 }
 
 QStringList MatchModel::choiceLabels() const {
@@ -141,11 +140,7 @@ QString MatchModel::bannerAnswer() const {
 }
 
 QStringList MatchModel::savedNames() const {
-  QStringList names;
-  if (match_ == nullptr) return names;
-  for (const std::string& name : match_->scan().savedChallengesName)
-    names << fromCore(name);
-  return names;
+  return match_ != nullptr ? fromCoreList(match_->scan().savedChallengesName) : QStringList();
 }
 
 QString MatchModel::statisticsTitle() const {
@@ -155,11 +150,8 @@ QString MatchModel::statisticsTitle() const {
 }
 
 QStringList MatchModel::statisticsLines() const {
-  QStringList lines;
-  if (match_ == nullptr) return lines;
-  for (const std::string& line : tessarine::challengeStatisticsLines(match_->scan(), english()))
-    lines << fromCore(line);
-  return lines;
+  return match_ != nullptr ? fromCoreList(tessarine::challengeStatisticsLines(match_->scan(), english()))
+                           : QStringList();
 }
 
 void MatchModel::open(const QString& gameType) {

@@ -30,8 +30,9 @@ class MatchModel : public QObject {
   Q_PROPERTY(bool atKey READ atKey NOTIFY changed)
   Q_PROPERTY(QStringList keyCells READ keyCells NOTIFY changed)
   Q_PROPERTY(int keyCursor READ keyCursor NOTIFY changed)
-  Q_PROPERTY(qreal cellWidth READ cellWidth NOTIFY changed)
-  Q_PROPERTY(qreal keyWidth READ keyWidth NOTIFY changed)
+  // They follow the window as well as the game type.
+  Q_PROPERTY(qreal cellWidth READ cellWidth NOTIFY sizesChanged)
+  Q_PROPERTY(qreal keyWidth READ keyWidth NOTIFY sizesChanged)
   Q_PROPERTY(bool showKeypad READ showKeypad NOTIFY changed)
   Q_PROPERTY(bool submitEnabled READ submitEnabled NOTIFY changed)
   Q_PROPERTY(bool showChoices READ showChoices NOTIFY changed)
@@ -70,8 +71,8 @@ class MatchModel : public QObject {
   bool atKey() const { return view_.atKey; }
   QStringList keyCells() const;
   int keyCursor() const;
-  qreal cellWidth() const;
-  qreal keyWidth() const;
+  qreal cellWidth() const { return cellWidth_; }
+  qreal keyWidth() const { return keyWidth_; }
   bool showKeypad() const { return view_.showKeypad; }
   bool submitEnabled() const { return view_.submitEnabled; }
   bool showChoices() const { return view_.showChoices; }
@@ -140,12 +141,14 @@ class MatchModel : public QObject {
  signals:
   void changed();
   void screenRequested(const QString& screen);
+  void sizesChanged();
 
  private:
   void build(tessarine::Session& session);
   void act(const std::function<void(tessarine::Match&)>& action);
   bool english() const { return match_ == nullptr || match_->english(); }
   std::string gameTypeOr(const QString& gameType) const;
+  void relayout();
 
   SessionHost& host_;
   std::unique_ptr<tessarine::Match> match_;
@@ -156,4 +159,6 @@ class MatchModel : public QObject {
   TileListModel board_;
   TileListModel keypad_;
   TileListModel digitPad_;
+  qreal cellWidth_ = 0;
+  qreal keyWidth_ = 0;
 };

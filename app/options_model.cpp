@@ -72,7 +72,7 @@ QString OptionsModel::playChallengeLabel() const {
 }
 
 QString OptionsModel::rulesTitle() {
-  return fromCore(tessarine::fourthView("", true).title);
+  return fromCore(tessarine::FourthView::title);
 }
 
 void OptionsModel::open() {

@@ -22,7 +22,6 @@ class ClipboardShareSink : public QObject, public ShareSink {
   QML_ELEMENT
   QML_UNCREATABLE("Owned by the session host")
   Q_PROPERTY(QString text READ text NOTIFY changed)
-  Q_PROPERTY(bool copied READ copied NOTIFY changed)
   Q_PROPERTY(QString title READ title NOTIFY changed)
   Q_PROPERTY(QString copyButton READ copyButton NOTIFY changed)
   Q_PROPERTY(QString copiedNote READ copiedNote NOTIFY changed)
@@ -34,7 +33,6 @@ class ClipboardShareSink : public QObject, public ShareSink {
   void setEnglish(bool english);
 
   QString text() const { return text_; }
-  bool copied() const { return copied_; }
   QString title() const;
   QString copyButton() const;
   QString copiedNote() const;  // empty until the text is copied

@@ -15,14 +15,6 @@ QVariantMap button(const ButtonLook& look) {
           {QStringLiteral("enabled"), look.enabled}};
 }
 
-template <typename Texts>
-QStringList textList(const Texts& texts) {
-  QStringList list;
-  for (const auto& text : texts)
-    list.append(fromCore(text));
-  return list;
-}
-
 }  // namespace
 
 QVariantMap secondValues(const tessarine::SecondView& view) {
@@ -47,17 +39,17 @@ QVariantMap secondValues(const tessarine::SecondView& view) {
 
 QVariantMap fifthValues(const tessarine::FifthView& view) {
   return {{QStringLiteral("title"), fromCore(tessarine::FifthView::title)},
-          {QStringLiteral("lines"), textList(view.lines())},
+          {QStringLiteral("lines"), fromCoreList(view.lines())},
           {QStringLiteral("backButton"), button(tessarine::kBackButton)},
           {QStringLiteral("sortButton"), button(tessarine::FifthView::sortButton)},
           {QStringLiteral("dateFormatButton"), button(tessarine::FifthView::dateFormatButton)},
           {QStringLiteral("shareButton"), button(tessarine::kShareButton)},
           {QStringLiteral("sortMenuTitle"), fromCore(view.sortMenuTitle())},
           // The cancel button first; the index of a button is its sort choice.
-          {QStringLiteral("sortMenuButtons"), textList(view.sortMenuButtons())},
+          {QStringLiteral("sortMenuButtons"), fromCoreList(view.sortMenuButtons())},
           {QStringLiteral("dateFormatMenuTitle"), fromCore(view.dateFormatMenuTitle())},
           {QStringLiteral("dateFormatCancel"), fromCore(view.dateFormatCancel())},
-          {QStringLiteral("dateFormats"), textList(tessarine::kDateFormats)},
+          {QStringLiteral("dateFormats"), fromCoreList(tessarine::kDateFormats)},
           {QStringLiteral("fontSize"), view.fontSize}};
 }
 

@@ -44,37 +44,18 @@ Rectangle {
         anchors.topMargin: 8
         spacing: 6
 
-        Item {
-            width: parent.width
-            height: 48
-            Row {
-                anchors.left: parent.left
-                anchors.leftMargin: 4
-                anchors.verticalCenter: parent.verticalCenter
-                IconButton { objectName: "backButton"; symbol: "chevron.left"; name: "Back"; onClicked: screen.leave() }
-                IconButton { symbol: "info.circle"; name: "Rules"; onClicked: screen.openRules() }
+        SheetHeader {
+            title: screen.match.texts.heading
+            onBack: screen.leave()
+            leading: IconButton { symbol: "info.circle"; name: "Rules"; onClicked: screen.openRules() }
+            IconButton {
+                objectName: "saveButton"
+                symbol: "square.and.arrow.down"
+                name: screen.match.texts.saveTitle
+                visible: screen.match.canSave
+                onClicked: saveDialog.open()
             }
-            Text {
-                anchors.centerIn: parent
-                text: screen.match.texts.heading
-                font.pixelSize: 18
-                font.bold: true
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
-            }
-            Row {
-                anchors.right: parent.right
-                anchors.rightMargin: 4
-                anchors.verticalCenter: parent.verticalCenter
-                IconButton {
-                    objectName: "saveButton"
-                    symbol: "square.and.arrow.down"
-                    name: screen.match.texts.saveTitle
-                    visible: screen.match.canSave
-                    onClicked: saveDialog.open()
-                }
-                IconButton { symbol: "chart.bar"; name: "Statistics"; onClicked: screen.openStatistics() }
-            }
+            IconButton { symbol: "chart.bar"; name: "Statistics"; onClicked: screen.openStatistics() }
         }
 
         Text {

@@ -18,17 +18,13 @@ Text {
     verticalAlignment: Text.AlignVCenter
     Accessible.ignored: true
 
-    // The drawn circle of a circled symbol; most symbols have none, and make none.
-    Loader {
-        anchors.centerIn: parent
-        active: Icons.circled(icon.symbol)
-        sourceComponent: Rectangle {
-            width: icon.size
-            height: icon.size
-            radius: icon.size / 2
-            color: "transparent"
-            border.width: Math.max(1.5, icon.size / 12)
-            border.color: icon.color
-        }
+    // The drawn circle of a circled symbol; most symbols have none, and make none. Not a Loader:
+    // in Qt 6.4 it makes its item in a context of its own, which a bound component refuses.
+    property Item circle: null
+    function drawCircle() {
+        if (!icon.circle && Icons.circled(icon.symbol))
+            icon.circle = Qt.createComponent("IconCircle.qml").createObject(icon, { icon: icon })
     }
+    onSymbolChanged: drawCircle()
+    Component.onCompleted: drawCircle()
 }

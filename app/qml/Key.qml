@@ -1,55 +1,24 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 
-// One key of a keypad. A dead key (black, or an operator that cannot stand at the cursor) has no
-// action.
-Rectangle {
+// One key of a keypad, as tall as one and a half of its width. A dead key (black, or an operator
+// that cannot stand at the cursor) has no action.
+GlyphSquare {
     id: key
-    required property int index
     required property string symbol
-    required property string glyph
-    required property string colorName
-    required property string spokenName
-    required property string pattern
-    required property bool live
-    required property real keyWidth
-    signal pressed(int index)
+    required live
 
     objectName: "key_" + symbol
-    width: keyWidth
-    height: keyWidth * 1.45
+    height: width * 1.45
     radius: 4
-    color: TilePalette.fill(colorName)
     border.width: 1
     border.color: "#8e8e93"
     opacity: live || colorName === "black" ? 1.0 : 0.35
+    glyphScale: 0.55
+    markedGlyphScale: 0.55
+    markedShiftX: 0
+    markedShiftY: 0.12
+    markScale: 0.4
 
-    Text {
-        anchors.centerIn: parent
-        anchors.verticalCenterOffset: key.pattern !== "" ? key.keyWidth * 0.12 : 0
-        text: key.glyph
-        font.pixelSize: key.keyWidth * 0.55
-        font.bold: true
-        color: TilePalette.ink(key.colorName)
-    }
-    // Made only for colour-blind players: most boards never need the marks.
-    Loader {
-        anchors.top: parent.top
-        anchors.right: parent.right
-        anchors.margins: 1
-        active: key.pattern !== ""
-        sourceComponent: PatternMark {
-            symbol: key.pattern
-            colorName: key.colorName
-            size: key.keyWidth * 0.4
-        }
-    }
-    MouseArea {
-        anchors.fill: parent
-        enabled: key.live
-        onClicked: key.pressed(key.index)
-    }
     Accessible.role: Accessible.Button
-    Accessible.name: spokenName
-    Accessible.onPressAction: if (live) key.pressed(key.index)
 }

@@ -27,10 +27,10 @@ Item {
             required property int gridRow
             required property int gridColumn
             required property int rowLength
-            keyWidth: keypad.keyWidth
+            width: keypad.keyWidth
             x: (keypad.width - keypad.rowWidth(rowLength)) / 2 + gridColumn * (keypad.keyWidth + keypad.keySpacing)
             y: gridRow * (keypad.keyHeight + keypad.rowSpacing)
-            onPressed: (index) => keypad.keyPressed(index)
+            onTouched: (index) => keypad.keyPressed(index)
         }
     }
 }

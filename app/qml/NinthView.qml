@@ -14,34 +14,12 @@ Rectangle {
         anchors.fill: parent
         anchors.topMargin: 8
         spacing: 12
-        Item {
-            width: parent.width
-            height: 48
-            IconButton {
-                anchors.left: parent.left
-                anchors.leftMargin: 4
-                anchors.verticalCenter: parent.verticalCenter
-                symbol: "chevron.left"
-                name: "Back"
-                onClicked: screen.done()
-            }
-            IconButton {
-                anchors.right: parent.right
-                anchors.rightMargin: 4
-                anchors.verticalCenter: parent.verticalCenter
-                symbol: "square.and.arrow.up"
-                name: "Share"
-                onClicked: screen.match.sendStatistics()
-            }
-        }
-        Text {
+        SheetHeader {
             objectName: "statisticsTitle"
-            anchors.horizontalCenter: parent.horizontalCenter
-            text: screen.match.statisticsTitle
-            font.pixelSize: 24
-            font.bold: true
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
+            title: screen.match.statisticsTitle
+            fontSize: 24
+            onBack: screen.done()
+            IconButton { symbol: "square.and.arrow.up"; name: "Share"; onClicked: screen.match.sendStatistics() }
         }
         Repeater {
             model: screen.match.statisticsLines

@@ -49,7 +49,7 @@ const Bilingual& firstRule(std::string_view gameType) {
 }  // namespace
 
 FourthView fourthView(std::string_view gameType, bool EnglishTranslation) {
-  FourthView view{"Tessarine Challenge Rules", "chevron.left", "checkmark.square.fill", {}};
+  FourthView view;
   view.rules.emplace_back(pick(firstRule(gameType), EnglishTranslation));
   for (const Bilingual& rule : kRules)
     view.rules.emplace_back(pick(rule, EnglishTranslation));

@@ -10,10 +10,11 @@
 namespace tessarine {
 
 struct FourthView {
-  std::string_view title;  // the same in both languages
-  std::string_view backSymbol;
-  std::string_view bullet;         // drawn before each rule
-  std::vector<std::string> rules;  // in order of display
+  // Fixed, so that a screen can show them without building the sheet.
+  static constexpr std::string_view title = "Tessarine Challenge Rules";  // the same in both languages
+  static constexpr std::string_view backSymbol = "chevron.left";
+  static constexpr std::string_view bullet = "checkmark.square.fill";  // drawn before each rule
+  std::vector<std::string> rules;                                      // in order of display
 };
 
 FourthView fourthView(std::string_view gameType, bool EnglishTranslation);

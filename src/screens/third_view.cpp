@@ -123,11 +123,14 @@ SheetSection howToPlay(const GameTypeInfo* info, bool english) {
 
 }  // namespace help
 
+std::string_view thirdViewTitle(bool EnglishTranslation) {
+  return EnglishTranslation ? "HOW TO PLAY" : "CÓMO JUGAR";
+}
+
 ThirdView thirdView(std::string_view gameType, bool EnglishTranslation, bool /*EnglishWords*/) {
   const GameTypeInfo* info = findGameType(gameType);
   const bool english = EnglishTranslation;
-  return {english ? "HOW TO PLAY" : "CÓMO JUGAR",
-          "chevron.left",
+  return {thirdViewTitle(english),
           {help::nameEntry(english), help::howToPlay(info, english), help::colourHintExamples(info, english),
            help::gameOptions(info, english), help::smartModeErrorExamples(info, english),
            help::gameButtons(info, english), help::gameSymbols(info, english)}};

@@ -9,8 +9,8 @@
 namespace tessarine {
 
 struct ThirdView {
-  std::string_view title;  // "HOW TO PLAY" / "CÓMO JUGAR"
-  std::string_view backSymbol;
+  static constexpr std::string_view backSymbol = "chevron.left";
+  std::string_view title;  // thirdViewTitle
   // In order: the dictionary entry of the name, how to play, colour hint examples, game options,
   // Smart Mode error examples, game buttons, game symbols.
   std::vector<SheetSection> sections;
@@ -19,5 +19,8 @@ struct ThirdView {
 // `EnglishWords` is taken as the sheet receives it; every text follows the type and
 // `EnglishTranslation`. A type outside the table gets the general English texts.
 ThirdView thirdView(std::string_view gameType, bool EnglishTranslation, bool EnglishWords);
+
+// "HOW TO PLAY" / "CÓMO JUGAR", for a screen that shows the title without the sheet.
+std::string_view thirdViewTitle(bool EnglishTranslation);
 
 }  // namespace tessarine

@@ -29,6 +29,7 @@ Item {
         }
 
         function cleanup() {
+            TestSession.host.mainScreen.resizeViewport(390, 844)
             match.leave()
             while (sheets.depth > 1) sheets.closeSheet()
         }
@@ -71,6 +72,16 @@ Item {
             tap("backButton")
             compare(sheets.depth, 1)
             verify(!match.active)
+        }
+
+        // An open match draws its rows and keys for the window as it is now.
+        function test_sizes_follow_the_window() {
+            openMatch()
+            const board = findChild(sheets.currentItem, "matchBoard")
+            const before = [board.cellWidth, findChild(sheets.currentItem, "matchKeypad").keyWidth]
+            TestSession.host.mainScreen.resizeViewport(320, 600)
+            verify(board.cellWidth < before[0], "cells " + board.cellWidth)
+            verify(findChild(sheets.currentItem, "matchKeypad").keyWidth < before[1])
         }
 
         // The initiator's opening guess gives the send button the first label and the choices; a

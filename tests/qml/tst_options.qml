@@ -91,6 +91,7 @@ Item {
             for (let cell = 0; cell < 4; ++cell) {
                 const tile = findChild(sheets, "cell_" + cell)
                 verify(tile.pattern !== "", tile.colorName)
+                verify(findChild(tile, "patternMark") !== null, "the mark is drawn")
                 if (marks[tile.colorName] !== undefined) compare(tile.pattern, marks[tile.colorName])
                 marks[tile.colorName] = tile.pattern
             }
