@@ -6,8 +6,9 @@ import Tessarine
 // its file when it first opens, so its types (and the controls they import) stay out of the app's
 // first frame; after that frame they are compiled in the background, so no sheet waits on a
 // compile either. A sheet closes itself through the signals wired here. The screen models say when
-// their sheets open, so a button, a test or a script opens them the same way.
-Item {
+// their sheets open, so a button, a test or a script opens them the same way. A focus scope, so
+// that the screen on top holds the keyboard from the start.
+FocusScope {
     id: sheets
     required property SessionHost host
 
@@ -46,6 +47,8 @@ Item {
         const under = sheets.currentItem
         sheets.stack = sheets.stack.concat([sheet])
         under.visible = false
+        // The keyboard goes to the screen on top, as a touch does.
+        sheet.forceActiveFocus()
         return sheet
     }
     function closeSheet() {

@@ -13,6 +13,7 @@ Item {
         id: sheets
         anchors.fill: parent
         host: TestSession.host
+        focus: true
     }
     property Item screen: null
 
@@ -36,6 +37,11 @@ Item {
 
         function message() {
             return findChild(screen, "refusalMessage").text
+        }
+
+        // As the app starts: the main screen has the keyboard before anything is touched.
+        function initTestCase() {
+            verify(sheets.mainScreen.activeFocus)
         }
 
         function init() {

@@ -38,6 +38,7 @@ Item {
             sheets.openChallenge()
             compare(sheets.depth, 2)
             verify(match.active)
+            verify(sheets.currentItem.activeFocus, "the match screen takes the keyboard")
         }
 
         // Type C, answer line 1234: the worked example's key.
