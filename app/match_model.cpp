@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "board_presentation.h"
+#include "challenge/challenge_key.h"
 #include "challenge/challenge_records.h"
 #include "challenge/match_screen_texts.h"
 #include "core_text.h"
@@ -122,6 +123,10 @@ bool MatchModel::canPaste() const {
 
 QString MatchModel::titleLine() const {
   return fromCore(view_.titleLine);
+}
+
+QString MatchModel::titleKeyDigits() const {
+  return fromCore(tessarine::keycapDigits(view_.titleLine));
 }
 QString MatchModel::statusLine() const {
   return fromCore(view_.statusLine);

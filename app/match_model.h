@@ -48,6 +48,8 @@ class MatchModel : public QObject {
   Q_PROPERTY(int ballLamps READ ballLamps NOTIFY changed)
   Q_PROPERTY(int strikeLamps READ strikeLamps NOTIFY changed)
   Q_PROPERTY(QString titleLine READ titleLine NOTIFY changed)
+  // The key's six digits when the title line is the key, drawn as keycaps by the screen itself.
+  Q_PROPERTY(QString titleKeyDigits READ titleKeyDigits NOTIFY changed)
   Q_PROPERTY(QString statusLine READ statusLine NOTIFY changed)
   Q_PROPERTY(QString statusSecondLine READ statusSecondLine NOTIFY changed)
   Q_PROPERTY(QString sendLabel READ sendLabel NOTIFY changed)
@@ -88,6 +90,7 @@ class MatchModel : public QObject {
   int ballLamps() const { return view_.ballLamps; }
   int strikeLamps() const { return view_.strikeLamps; }
   QString titleLine() const;
+  QString titleKeyDigits() const;
   QString statusLine() const;
   QString statusSecondLine() const;
   QString sendLabel() const;

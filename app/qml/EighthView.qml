@@ -64,6 +64,14 @@ Rectangle {
             horizontalAlignment: Text.AlignHCenter
             text: screen.match.titleLine
             font.pixelSize: 20
+            color: TilePalette.text
+            visible: screen.match.titleKeyDigits === ""
+        }
+        KeycapRow {
+            objectName: "titleKey"
+            anchors.horizontalCenter: parent.horizontalCenter
+            digits: screen.match.titleKeyDigits
+            visible: digits !== ""
         }
         Text {
             objectName: "statusLine"

@@ -92,6 +92,11 @@ Item {
             for (const letter of "CRANE") tap("key_" + letter)
             tap("matchSubmitButton")
             verify(match.showChoices)
+            // The key stands in the title as six drawn keycaps, not as the split emoji.
+            const key = findChild(sheets.currentItem, "titleKey")
+            verify(key.visible)
+            verify(/^[0-9]{6}$/.test(key.digits), key.digits)
+            verify(!findChild(sheets.currentItem, "titleLine").visible)
             compare(findChild(sheets.currentItem, "sendButton").label, "Start Challenge")
             compare(match.choiceLabels, ["2nd Guess Received", "Opponent Found Answer", "Opponent Walked",
                                          "Opponent Struck Out"])
