@@ -9,7 +9,7 @@ Rectangle {
     id: screen
     required property SessionHost host
     readonly property MatchModel match: host.match
-    color: "white"
+    color: TilePalette.background
     focus: true
 
     signal done()
@@ -80,13 +80,14 @@ Rectangle {
             text: screen.match.statusLine
             font.pixelSize: 17
             font.bold: true
-            color: "#007aff"
+            color: TilePalette.tint
         }
         Text {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             text: screen.match.statusSecondLine
             font.pixelSize: 15
+            color: TilePalette.text
             visible: text.length > 0
         }
         MatchLamps {
@@ -115,7 +116,7 @@ Rectangle {
             text: screen.match.message
             textFormat: Text.PlainText
             font.pixelSize: 14
-            color: "#3c3c43"
+            color: TilePalette.secondaryText
             visible: text.length > 0
         }
     }

@@ -17,7 +17,7 @@ Row {
         objectName: "walkButton"
         symbol: "figure.walk.diamond"
         name: "Intentional walk"
-        tint: buttons.match.walkSelected ? "#ff3b30" : "#007aff"
+        tint: buttons.match.walkSelected ? "#ff3b30" : TilePalette.tint
         visible: buttons.match.showWalkButton
         onClicked: buttons.match.toggleWalk()
     }

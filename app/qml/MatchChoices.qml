@@ -12,12 +12,12 @@ Column {
         id: button
         required property string symbol
         required property string label
-        property color tint: "#007aff"
+        property color tint: TilePalette.tint
         signal clicked()
         width: choices.width
         height: 44
         radius: 8
-        color: "#f2f2f7"
+        color: TilePalette.groupBackground
         Row {
             anchors.centerIn: parent
             spacing: 8
@@ -49,7 +49,7 @@ Column {
             objectName: "choice_" + index
             symbol: "circle.circle"
             label: modelData
-            tint: "#000000"
+            tint: TilePalette.text
             onClicked: choices.match.choose(index)
         }
     }

@@ -21,12 +21,14 @@ Column {
                 height: 52
                 radius: 4
                 border.width: index === entry.match.keyCursor ? 4 : 1
-                border.color: index === entry.match.keyCursor ? "#000000" : "#8e8e93"
+                border.color: index === entry.match.keyCursor ? TilePalette.text : "#8e8e93"
+                color: TilePalette.background
                 Text {
                     anchors.centerIn: parent
                     text: parent.modelData
                     font.pixelSize: 28
                     font.bold: true
+                    color: TilePalette.text
                 }
                 Accessible.role: Accessible.Cell
                 Accessible.name: modelData.length > 0 ? modelData : "blank"

@@ -19,6 +19,7 @@ Row {
             anchors.verticalCenter: parent.verticalCenter
             text: group.label
             font.pixelSize: 15
+            color: TilePalette.text
             rightPadding: 4
         }
         Repeater {

@@ -22,6 +22,7 @@ Column {
         visible: saved.match.savedNames.length > 1
         text: saved.match.texts.selectTitle
         font.pixelSize: 15
+        color: TilePalette.text
     }
     Repeater {
         model: saved.match.savedNames.length > 1 ? saved.match.savedNames : []
@@ -37,6 +38,7 @@ Column {
                 width: 180
                 text: line.modelData
                 textFormat: Text.PlainText
+                color: TilePalette.text
                 elide: Text.ElideRight
                 font.pixelSize: 16
             }

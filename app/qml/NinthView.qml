@@ -7,7 +7,7 @@ Rectangle {
     id: screen
     required property SessionHost host
     readonly property MatchModel match: host.match
-    color: "white"
+    color: TilePalette.background
     signal done()
 
     Column {
@@ -27,6 +27,7 @@ Rectangle {
                 required property string modelData
                 text: modelData
                 font.pixelSize: 18
+                color: TilePalette.text
             }
         }
     }
