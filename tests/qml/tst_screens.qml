@@ -60,6 +60,17 @@ TestCase {
     }
 
     // A sheet covers the main screen and hands it back when it closes.
+    // A sheet opened while the sheets still compile in the background opens all the same.
+    function test_a_sheet_opens_while_the_sheets_compile() {
+        const sheets = createTemporaryObject(Qt.createComponent("qrc:/Tessarine/qml/SheetHost.qml"),
+                                             testCase, { host: host })
+        sheets.compileSheets()
+        sheets.openHelp()
+        compare(sheets.depth, 2)
+        compare(sheets.currentItem.help, host.help)
+        sheets.closeSheet()
+    }
+
     function test_sheets_open_over_the_main_screen() {
         const sheets = createTemporaryObject(Qt.createComponent("qrc:/Tessarine/qml/SheetHost.qml"),
                                              testCase, { host: host })
