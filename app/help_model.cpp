@@ -8,7 +8,7 @@
 #include "screens/colour_marks.h"
 #include "screens/fourth_view.h"
 #include "screens/third_view.h"
-#include "tile_texts.h"
+#include "tile_items.h"
 
 namespace {
 
@@ -28,12 +28,11 @@ QVariantList exampleRows(const tessarine::SheetLine& line, bool equation, bool c
   for (const tessarine::ExampleRow& row : line.tiles) {
     QVariantList tiles;
     for (const tessarine::ExampleTile& tile : row) {
-      const QString symbol = fromCore(tile.symbol);
-      const QString colour = fromCore(tessarine::tileColorName(tile.colour));
+      const TileItem item = tileItem(tile.symbol, tile.colour, equation);
       tiles.append(QVariantMap{
-          {"glyph", glyphFor(symbol, equation)},
-          {"colorName", colour},
-          {"spokenName", spokenName(symbol, colour, equation)},
+          {"glyph", item.glyph},
+          {"colorName", item.colorName},
+          {"spokenName", item.spokenName},
           {"pattern", colourBlind ? fromCore(tessarine::colourBlindMark(tile.colour)) : QString()}});
     }
     rows.append(QVariant(tiles));

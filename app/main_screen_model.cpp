@@ -186,7 +186,7 @@ bool MainScreenModel::typeText(const QString& typed) {
 }
 
 bool MainScreenModel::shareEnabled() const {
-  return host_.session() != nullptr && host_.session()->gameShareText().has_value();
+  return host_.session() != nullptr && host_.session()->gameShareable();
 }
 
 void MainScreenModel::shareGame() {

@@ -108,17 +108,15 @@ QStringList MatchModel::choiceLabels() const {
 }
 
 bool MatchModel::canAccept() const {
-  if (!active()) return false;
-  const tessarine::MatchState& m = match_->state();
-  return m.numPlayer == 1 && m.activeRow() == 0 && !m.challengeStarted;
+  return active() && view_.offersAccept;
 }
 
 bool MatchModel::canSave() const {
-  return active() && match_->state().challengeStarted && !view_.gameOver;
+  return active() && view_.offersSave;
 }
 
 bool MatchModel::canPaste() const {
-  return active() && (view_.atKey || match_->canTypeReceivedGuess());
+  return active() && view_.offersPaste;
 }
 
 QString MatchModel::titleLine() const {

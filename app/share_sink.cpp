@@ -3,6 +3,9 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include "core_text.h"
+#include "screens/share_sheet.h"
+
 void ClipboardShareSink::share(const QString& text) {
   text_ = text;
   copied_ = false;
@@ -17,16 +20,16 @@ void ClipboardShareSink::setEnglish(bool english) {
 }
 
 QString ClipboardShareSink::title() const {
-  return english_ ? QStringLiteral("Share") : QStringLiteral("Compartir");
+  return fromCore(tessarine::pick(tessarine::kShareSheetTitle, english_));
 }
 
 QString ClipboardShareSink::copyButton() const {
-  return english_ ? QStringLiteral("Copy") : QStringLiteral("Copiar");
+  return fromCore(tessarine::pick(tessarine::kShareSheetCopyButton, english_));
 }
 
 QString ClipboardShareSink::copiedNote() const {
   if (!copied_) return {};
-  return english_ ? QStringLiteral("Copied to the clipboard") : QStringLiteral("Copiado al portapapeles");
+  return fromCore(tessarine::pick(tessarine::kShareSheetCopiedNote, english_));
 }
 
 void ClipboardShareSink::copy() {

@@ -28,6 +28,9 @@ MatchView Match::view() const {
   v.statusSecondLine = matchStatusSecondLine(m, english_);
   v.sendLabel = sendButtonLabel(m, english_);
   v.gameOver = m.gameOver;
+  v.offersAccept = m.numPlayer == 1 && m.activeRow() == 0 && !m.challengeStarted;
+  v.offersSave = m.challengeStarted && !m.gameOver;
+  v.offersPaste = v.atKey || canTypeReceivedGuess();
   v.banner = matchBanner(m, english_);
   v.bannerAnswer = matchBannerAnswer(m, lists_, english_);
   return v;

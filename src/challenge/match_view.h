@@ -32,6 +32,9 @@ struct MatchView {
   std::string titleLine, statusLine, statusSecondLine;
   std::string sendLabel;
   bool gameOver = false;
+  // The buttons that stand only at some moments: accept (before the first guess), save (a match
+  // under way), paste (at the key, or for the opponent's guess).
+  bool offersAccept = false, offersSave = false, offersPaste = false;
   std::string banner, bannerAnswer;
 };
 

@@ -179,24 +179,27 @@ bool yellowKept(Cells& board) {
 
 }  // namespace
 
+namespace {
+
+// One check on its own, as the CLI and the tests call it.
+bool checkOnly(Board& target, bool (*check)(Cells&)) {
+  Cells board(target);
+  return check(board);
+}
+
+}  // namespace
+
 bool checkGreenTiles(Board& target) {
-  Cells board(target);
-  return greenKept(board);
+  return checkOnly(target, greenKept);
 }
-
 bool checkBlueTiles(Board& target) {
-  Cells board(target);
-  return blueIncreased(board);
+  return checkOnly(target, blueIncreased);
 }
-
 bool checkGrayTiles(Board& target) {
-  Cells board(target);
-  return grayLeftOut(board);
+  return checkOnly(target, grayLeftOut);
 }
-
 bool checkYellowTiles(Board& target) {
-  Cells board(target);
-  return yellowKept(board);
+  return checkOnly(target, yellowKept);
 }
 
 bool passesSmartMode(Board& target, SmartModeFailure* why) {

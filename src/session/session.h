@@ -87,6 +87,8 @@ class Session {
   SecondView secondView(double screenWidth = kDefaultScreenWidth) const;
   // The game text of the main screen's share button, offered once the game of the day is over.
   std::optional<std::string> gameShareText() const;
+  // Whether the shown day's game can be shared: once it is over.
+  bool gameShareable() const { return !view_.showKeypad; }
   // On a finished board a touched tile takes or loses the highlight that hides it from the shared
   // text. Nothing is stored: the next refresh clears it. Returns whether the tile changed.
   bool toggleHighlight(int cell);

@@ -9,7 +9,7 @@ SecondView Session::secondView(double screenWidth) const {
 }
 
 std::optional<std::string> Session::gameShareText() const {
-  if (view_.showKeypad) return std::nullopt;
+  if (!gameShareable()) return std::nullopt;
   return tessarine::gameShareText(view_, clock_);
 }
 
