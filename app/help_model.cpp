@@ -5,7 +5,6 @@
 #include "catalogue/catalogue.h"
 #include "core_text.h"
 #include "options_model.h"
-#include "screens/colour_marks.h"
 #include "screens/fourth_view.h"
 #include "screens/third_view.h"
 #include "tile_items.h"
@@ -28,12 +27,11 @@ QVariantList exampleRows(const tessarine::SheetLine& line, bool equation, bool c
   for (const tessarine::ExampleRow& row : line.tiles) {
     QVariantList tiles;
     for (const tessarine::ExampleTile& tile : row) {
-      const TileItem item = tileItem(tile.symbol, tile.colour, equation);
-      tiles.append(QVariantMap{
-          {"glyph", item.glyph},
-          {"colorName", item.colorName},
-          {"spokenName", item.spokenName},
-          {"pattern", colourBlind ? fromCore(tessarine::colourBlindMark(tile.colour)) : QString()}});
+      const TileItem item = tileItem(tile.symbol, tile.colour, equation, colourBlind);
+      tiles.append(QVariantMap{{"glyph", item.glyph},
+                               {"colorName", item.colorName},
+                               {"spokenName", item.spokenName},
+                               {"pattern", item.pattern}});
     }
     rows.append(QVariant(tiles));
   }

@@ -7,7 +7,6 @@
 #include "catalogue/fatal_error.h"
 #include "core_text.h"
 #include "screens/board_sizes.h"
-#include "screens/colour_marks.h"
 #include "screens/refusal_message.h"
 #include "session/session_texts.h"
 #include "session_host.h"
@@ -46,21 +45,13 @@ void MainScreenModel::refresh() {
 
 void MainScreenModel::rebuildBoard() {
   const ContentView& view = host_.view();
-  std::vector<TileItem> items = boardItems(view, view.gameRows);
-  if (view.presentation.colourBlind) {
-    for (std::size_t i = 0; i < items.size(); ++i)
-      items[i].pattern = fromCore(tessarine::colourBlindMark(view.cellBackground[i]));
-  }
-  board_.setItems(std::move(items));
+  board_.setItems(boardItems(view, view.gameRows, view.presentation.colourBlind));
 }
 
 void MainScreenModel::rebuildKeypad() {
   const ContentView& view = host_.view();
-  std::vector<TileItem> items = keypadItems(view, keyRows(view), view.typeOfGame == "E");
-  if (view.presentation.colourBlind) {
-    for (std::size_t i = 0; i < items.size(); ++i)
-      items[i].pattern = fromCore(tessarine::colourBlindMark(view.keypadKeyColor[i]));
-  }
+  std::vector<TileItem> items =
+      keypadItems(view, keyRows(view), view.typeOfGame == "E", view.presentation.colourBlind);
   for (std::size_t i = 0; i < items.size(); ++i) {
     try {
       items[i].live = host_.ready() && host_.session()->keyLive(view.keypadLetters[i]);

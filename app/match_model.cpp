@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "board_presentation.h"
-#include "challenge/challenge_key.h"
 #include "challenge/challenge_records.h"
 #include "challenge/match_screen_texts.h"
 #include "core_text.h"
@@ -124,7 +123,7 @@ QString MatchModel::titleLine() const {
 }
 
 QString MatchModel::titleKeyDigits() const {
-  return fromCore(tessarine::keycapDigits(view_.titleLine));
+  return fromCore(view_.titleKeyDigits);
 }
 QString MatchModel::statusLine() const {
   return fromCore(view_.statusLine);
@@ -264,9 +263,8 @@ void MatchModel::undo() {
 void MatchModel::send() {
   // The question button sends the query while the opponent's guess is refused.
   if (!active() || !(view_.showChoices || view_.showQuestion)) return;
+  // The share sheet says when the text is copied; the match screen has nothing to add.
   host_.share(match_->shareText());
-  message_ = fromCore(tessarine::matchScreenTexts(match_->state().gameType, english()).copied);
-  emit changed();
 }
 
 void MatchModel::sendStatistics() {

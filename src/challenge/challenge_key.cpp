@@ -56,16 +56,6 @@ std::string keycap(int digit) {
   return std::string(1, static_cast<char>('0' + digit)) + "\xEF\xB8\x8F\xE2\x83\xA3";
 }
 
-std::string keycapDigits(std::string_view text) {
-  static constexpr std::string_view kCap = "\xEF\xB8\x8F\xE2\x83\xA3";
-  std::string digits;
-  while (text.size() > kCap.size() && text[0] >= '0' && text[0] <= '9' && text.substr(1).starts_with(kCap)) {
-    digits += text[0];
-    text.remove_prefix(1 + kCap.size());
-  }
-  return text.empty() ? digits : std::string();
-}
-
 std::string makeChallengeKey(std::string_view gameType, int challengeIndex) {
   std::string key;
   for (const int digit : challengeKeyDigits(gameType, challengeIndex))

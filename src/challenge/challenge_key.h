@@ -31,9 +31,6 @@ inline bool isKeyDigits(std::string_view typed) {
   return typed.size() == 6 && typed.find_first_not_of("0123456789") == std::string_view::npos;
 }
 std::string keycap(int digit);
-// The digits of a text made only of keycaps, as a screen draws them itself where the platform's
-// emoji font would split each keycap into a digit and a box; empty for any other text.
-std::string keycapDigits(std::string_view text);
 
 // The short label of a game type in titles and share texts.
 std::string challengeGameTag(std::string_view gameType);

@@ -20,8 +20,7 @@ MatchScreenTexts matchScreenTexts(const std::string& gameType, bool english) {
             "Delete Challenge?",
             "Select Challenge:",
             "Select Challenge",
-            "Continue " + tag + " Challenge",
-            "Copied to the clipboard"};
+            "Continue " + tag + " Challenge"};
   }
   return {"Tessarina Desafío",
           "Pelotas",
@@ -36,8 +35,7 @@ MatchScreenTexts matchScreenTexts(const std::string& gameType, bool english) {
           "Borrar Desafío?",
           "Select Challenge:",
           "Seleccionar desafío",
-          "Continuar " + tag + " Desafío",
-          "Copiado al portapapeles"};
+          "Continuar " + tag + " Desafío"};
 }
 
 }  // namespace tessarine

@@ -16,7 +16,6 @@ struct MatchScreenTexts {
   std::string deleteTitle;            // asked before a saved match is deleted
   std::string selectTitle, selectButton;
   std::string continueSaved;  // one saved match: its button
-  std::string copied;         // after the text has gone to the clipboard
 };
 
 MatchScreenTexts matchScreenTexts(const std::string& gameType, bool english);

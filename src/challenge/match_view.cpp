@@ -1,3 +1,4 @@
+#include "challenge/challenge_key.h"
 #include "challenge/match.h"
 #include "challenge/match_texts.h"
 
@@ -24,6 +25,12 @@ MatchView Match::view() const {
   v.ballLamps = m.numBalls;
   v.strikeLamps = m.numStrikes;
   v.titleLine = matchTitleLine(m, english_);
+  if (v.titleLine == m.challengeKey) {
+    for (const int digit : challengeKeyDigits(m.gameType, m.challengeIndex))
+      v.titleKeyDigits += static_cast<char>('0' + digit);
+    // A type without a number has no key a screen could draw as digits.
+    if (!isKeyDigits(v.titleKeyDigits)) v.titleKeyDigits.clear();
+  }
   v.statusLine = matchStatusLine(m, english_);
   v.statusSecondLine = matchStatusSecondLine(m, english_);
   v.sendLabel = sendButtonLabel(m, english_);

@@ -30,6 +30,9 @@ struct MatchView {
   bool showQuestion = false;  // the opponent's text can't be right
   int ballLamps = 0, strikeLamps = 0;
   std::string titleLine, statusLine, statusSecondLine;
+  // The key's six digits while the title line is the key, for a screen that draws keycaps itself
+  // (an emoji font may split a keycap emoji into its digit and a box); empty otherwise.
+  std::string titleKeyDigits;
   std::string sendLabel;
   bool gameOver = false;
   // The buttons that stand only at some moments: accept (before the first guess), save (a match

@@ -36,17 +36,6 @@ TEST(ChallengeKey, KnownKeys) {
   EXPECT_EQ(makeChallengeKey("C", 1234), "8️⃣0️⃣6️⃣3️⃣4️⃣9️⃣");
 }
 
-TEST(ChallengeKey, KeycapDigitsReadOnlyATextOfKeycaps) {
-  const struct {
-    std::string text;
-    const char* digits;
-  } cases[] = {
-      {makeChallengeKey("C", 1234), "806349"}, {"7️⃣", "7"},    {"", ""},    {"Enter Challenge Key", ""},
-      {"8️⃣0️⃣ and more", ""},         {"8️⃣🔢", ""}, {"8️", ""}};
-  for (const auto& c : cases)
-    EXPECT_EQ(keycapDigits(c.text), c.digits) << c.text;
-}
-
 TEST(ChallengeKey, EveryTypeWithAListRoundTrips) {
   for (const GameTypeInfo& info : gameCatalogue()) {
     if (info.answerFile.empty()) continue;
