@@ -68,15 +68,6 @@ Item {
             closeOptions()
         }
 
-        function test_2_a_change_undone_changes_nothing() {
-            openOptions()
-            tap("item_Español")
-            tap("item_English")
-            tap("item_4 Digit Number")
-            closeOptions()
-            compare(game.gameType, "I")
-        }
-
         function test_3_colour_blind_marks_every_scoring_colour() {
             openOptions()
             tap("option_colourBlind")

@@ -59,7 +59,6 @@ TestCase {
             compare(findChild(screen, "key_" + letter).gridRow, 0)
     }
 
-    // A sheet covers the main screen and hands it back when it closes.
     // A sheet opened while the sheets still compile in the background opens all the same.
     function test_a_sheet_opens_while_the_sheets_compile() {
         const sheets = createTemporaryObject(Qt.createComponent("qrc:/Tessarine/qml/SheetHost.qml"),
@@ -71,6 +70,7 @@ TestCase {
         sheets.closeSheet()
     }
 
+    // A sheet covers the main screen and hands it back when it closes.
     function test_sheets_open_over_the_main_screen() {
         const sheets = createTemporaryObject(Qt.createComponent("qrc:/Tessarine/qml/SheetHost.qml"),
                                              testCase, { host: host })
@@ -99,20 +99,5 @@ TestCase {
         compare(tile.shownColor, data.first)
         verify(tile.motion !== null)
         tryCompare(tile, "shownColor", data.to, 1000)
-    }
-
-    // A symbol name that the table does not know would draw nothing at all.
-    function test_every_symbol_of_the_main_screen_has_a_glyph() {
-        const names = ["gearshape", "info.circle", "square.and.arrow.up", "trash.square", "clear",
-                       "arrow.down.app", "calendar", "chevron.right", "sunrise", "figure.wave",
-                       "star.fill", "exclamationmark.questionmark", "questionmark", "exclamationmark.2",
-                       "exclamationmark.triangle.fill", "multiply", "questionmark.circle",
-                       "graduationcap.fill", "parkingsign.circle", "checkmark.square.fill", "square",
-                       "circle.circle", "figure.walk.diamond", "arrow.uturn.backward.square", "chevron.left",
-                       "doc.on.clipboard", "chart.bar", "square.and.arrow.down",
-                       "square.fill", "checkmark.square", "lightbulb"]
-        for (const name of names)
-            verify(Icons.glyph(name).length === 1, name)
-        compare(Icons.glyph("graduationcap.blank"), "")
     }
 }
