@@ -10,6 +10,7 @@
 
 #include "app_environment.h"
 #include "core_start.h"
+#include "font_configuration.h"
 #include "screenshot.h"
 #include "session_host.h"
 #include "start_steps.h"
@@ -32,13 +33,17 @@ int main(int argc, char* argv[]) {
   QGuiApplication::setOrganizationName("Tessarine");
   QGuiApplication::setApplicationName("Tessarine");
   CoreStart core(readAppEnvironment());
+  // Before anything asks fontconfig for a font, or it would read the system's configuration.
+  const QString fontTrouble = useGameFontConfiguration();
+  if (!fontTrouble.isEmpty())
+    std::fprintf(stderr, "Tessarine uses the system's fonts: %s.\n", qPrintable(fontTrouble));
 
   QGuiApplication app(argc, argv);
   markStartStep("application");
   QGuiApplication::setDesktopFileName(QStringLiteral("org.tessarine.Tessarine"));
 
-  // The fonts (fontconfig's configuration and caches, and the icon font) load on a thread of their
-  // own while the screens compile; the first text laid out would otherwise wait for them.
+  // The font database and the icon font load on a thread of their own while the screens compile;
+  // the first text laid out would otherwise wait for them.
   std::jthread fonts([] {
     SymbolIcons::fontFamily();
     QFontDatabase::families();

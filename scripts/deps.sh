@@ -3,12 +3,12 @@
 set -euo pipefail
 packages=(
   cmake ninja-build g++ pkg-config sqlite3 dpkg-dev file desktop-file-utils appstream
-  libsqlite3-dev libgtest-dev libgmock-dev libbenchmark-dev
+  libsqlite3-dev libfontconfig-dev libgtest-dev libgmock-dev libbenchmark-dev
   qt6-base-dev qt6-declarative-dev qt6-tools-dev
   qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
   qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qtqml-workerscript
   qml6-module-qttest qml6-module-qtquick-shapes
-  fonts-noto-color-emoji
+  fonts-dejavu-core fonts-noto-color-emoji
   python3-pil
 )
 missing=()

@@ -57,6 +57,7 @@ out=$(cd "$elsewhere" && env -u XDG_DATA_HOME -u XDG_CONFIG_HOME -u TESSARINE_DA
   TESSARINE_FIRST_FRAME=1 QML_IMPORT_TRACE=1 timeout 60 "$command" 2>"$work/stderr") ||
   { tail -20 "$work/stderr"; fail "the installed app did not reach its first frame"; }
 grep -q '^first-frame-epoch-ms [0-9]' <<<"$out" || fail "no first frame: $out"
+! grep "uses the system's fonts" "$work/stderr" || fail "the game's font configuration was not used"
 ls "$home"/.local/share/Tessarine/Tessarine/TessarineCoreDataModel.sqlite >/dev/null ||
   fail "no stores in the fresh account's data folder"
 
