@@ -50,6 +50,7 @@ int main(int argc, char* argv[]) {
   });
 
   QQmlEngine engine;
+  markStartStep("engine");
   // The QML module is built into the binary: look for it there, never beside the build tree.
   engine.addImportPath(QStringLiteral("qrc:/"));
   if (!QFile::exists(QStringLiteral(":/Tessarine/qmldir"))) return failStart("its QML module is missing");

@@ -8,7 +8,7 @@
 # copied afresh for each run, on the day after the history ends.
 #
 # With --steps it also gives the median time from the start to each step of the app's own start
-# (the core on its thread, QGuiApplication, the screens compiled, the core handed over, the screens
+# (the core on its thread, QGuiApplication, the QML engine, the screens compiled, the core handed over, the screens
 # made, the first frame).
 #
 # Without --app the build is installed (stripped) into a temporary prefix and that copy is timed, from
@@ -75,10 +75,15 @@ report() {
 echo "medians of $runs runs each"
 report "bare Qt Quick window" bare
 report "tessarine" app
-awk -v a="$(column app 1)" -v b="$(column bare 1)" 'BEGIN {printf "first frame, app / bare: %.2f\n", a / b}'
+# The ratio of the medians, the median of the ratios of runs made one after the other (a slow spell of
+# the machine weighs on both halves of a pair), and the ratio of the best runs.
+ratios=$(paste -d' ' "$work/app" "$work/bare" | awk '{printf "%.4f\n", $1 / $4}' | median)
+awk -v a="$(column app 1)" -v b="$(column bare 1)" -v r="$ratios" \
+  -v best="$(cut -d' ' -f1 "$work/app" | sort -n | head -1) $(cut -d' ' -f1 "$work/bare" | sort -n | head -1)" \
+  'BEGIN {split(best, m, " "); printf "first frame, app / bare: %.2f (median of pairs %.2f, best runs %.2f)\n", a / b, r, m[1] / m[2]}'
 if [ -n "$steps" ]; then
   printf 'steps of the app, median ms from the start:'
-  for step in main application compiled core created; do
+  for step in main application engine compiled core created; do
     printf ' %s %s' "$step" "$(awk -v s="$step" '$1 == s {print $2}' "$work/steps" | median)"
   done
   printf ' frame %s\n' "$(column app 1)"
